@@ -1,0 +1,22 @@
+#!/usr/bin/env bash
+# Builds the benchmarks and runs them all, each with its baseline in the same run.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+source cmake/packages.sh
+install_packages "${build_packages[@]}" "${desktop_packages[@]}" "${test_packages[@]}"
+cmake --preset bench >/dev/null
+cmake --build --preset bench -- -j "$(nproc)"
+cd build/bench/bin
+export QT_QPA_PLATFORM=offscreen
+# The logs lie on this disk: a folder in memory would make every commit look fast.
+interleaved=(--benchmark_enable_random_interleaving=true --benchmark_repetitions=9
+             --benchmark_report_aggregates_only=true)
+echo "== one QSO committed"
+./commit_bench "${interleaved[@]}"
+echo "== a key"
+./key_bench "${interleaved[@]}"
+echo "== sleeping to a deadline (ms late)"
+./deadline_bench
+echo "== memory (MB)"
+./memory_bench empty
+./memory_bench kelvo

@@ -1,0 +1,28 @@
+# What the scripts install from Debian 12, and how.
+
+# The compiler and the logic of the program.
+build_packages=(g++ cmake ninja-build libsqlite3-dev)
+# The desktop program.
+desktop_packages=(qt6-base-dev fonts-dejavu-core)
+# Tests, checks and benchmarks; real keys into a real window.
+test_packages=(libgtest-dev libgmock-dev libbenchmark-dev clang-format clang-tidy xvfb xdotool sqlite3)
+
+# install_packages NAME...: installs those that are not there yet. Says so when it may not.
+install_packages() {
+    command -v dpkg-query >/dev/null || return 0
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+
+    local as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || { echo "Please install: ${missing[*]}" >&2; return 1; }
+        as_root=(sudo)
+    fi
+    echo "Installing: ${missing[*]}"
+    "${as_root[@]}" apt-get update -qq
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" \
+        >/dev/null
+}

@@ -1,0 +1,443 @@
+#include "app/engine.h"
+
+#include <algorithm>
+#include <array>
+
+#include "app/picture_maker.h"
+#include "base/runtime_error.h"
+#include "base/text.h"
+#include "screen/editing.h"
+#include "screen/mnemonic.h"
+
+namespace app {
+
+using platform::Key;
+using screen::Control;
+using screen::Kind;
+
+namespace {
+
+/// A field may hand the focus on in its GotFocus; a ring of fields that do so is broken after this many turns.
+constexpr int mostFocusMoves = 20;
+
+/// Runs a handler: an error that leaves it ends it and nothing else.
+template <typename Handler>
+void run(Handler&& handler)
+{
+    base::quietly<base::noCurrentRecord>(std::forward<Handler>(handler));
+}
+
+bool isCharacterKey(const Key& key)
+{
+    return key.character >= U' ' && !key.ctrl && !key.alt;
+}
+
+/// Keys that act once however long they are held.
+bool actsOncePerPress(int code)
+{
+    constexpr std::array once = {platform::keyTab, platform::keySpace, platform::keyEnter, platform::keyEscape,
+                                 platform::keyInsert};
+    return std::find(once.begin(), once.end(), code) != once.end() ||
+           (code >= platform::keyF1 && code <= platform::keyF12);
+}
+
+/// What KeyPress gets for a key, 0 for a key that has none.
+char32_t characterOf(const Key& key)
+{
+    if (key.ctrl || key.alt) return 0;
+    switch (key.code) {
+        case platform::keyBackspace: return platform::charBackspace;
+        case platform::keyTab: return platform::charTab;
+        case platform::keyEnter: return platform::charEnter;
+        case platform::keyEscape: return platform::charEscape;
+        default: return key.character;
+    }
+}
+
+/// The field that a key goes to now, nullptr when there is none.
+Control* focusedField()
+{
+    screen::Form* form = screen::activeForm();
+    if (form == nullptr || form->ActiveControl == nullptr) return nullptr;
+    return form->ActiveControl->canTakeFocus() ? form->ActiveControl : nullptr;
+}
+
+bool canBeClicked(const Control& control)
+{
+    return &control.form == screen::activeForm() && control.seen() && control.enabled();
+}
+
+bool isParkingPlace(const Control& control)
+{
+    return control.kind == Kind::textBox && static_cast<const screen::TextBox&>(control).parking;
+}
+
+void choose(Control& control)
+{
+    if (control.kind == Kind::optionButton) static_cast<screen::OptionButton&>(control).Value = true;
+    if (control.kind == Kind::checkBox) {
+        auto& box = static_cast<screen::CheckBox&>(control);
+        box.Value = box.Value == 0 ? 1 : 0;
+    }
+    if (control.Click != nullptr) run(control.Click);
+}
+
+/// The control that Tab leads to from `from` among the stops of the form, nullptr when there is no other.
+Control* nextStop(const screen::Form& form, const Control* from, bool backwards)
+{
+    std::vector<Control*> stops;
+    std::copy_if(form.controls().begin(), form.controls().end(), std::back_inserter(stops), [&](const Control* control) {
+        return control == from || (control->TabStop && control->canTakeFocus());
+    });
+    if (backwards) std::reverse(stops.begin(), stops.end());
+    auto at = std::find(stops.begin(), stops.end(), from);
+    if (at != stops.end()) {
+        std::rotate(stops.begin(), std::next(at), stops.end());
+        stops.pop_back();
+    }
+    return stops.empty() ? nullptr : stops.front();
+}
+
+/// An option next to `option` in its frame, in the order of the page.
+Control* neighbourOption(const Control& option, bool backwards)
+{
+    std::vector<Control*> options;
+    for (Control* control : option.form.controls())
+        if (control->kind == Kind::optionButton && control->container == option.container && control->canTakeFocus())
+            options.push_back(control);
+    if (backwards) std::reverse(options.begin(), options.end());
+    const auto at = std::find(options.begin(), options.end(), &option);
+    if (at == options.end() || options.size() < 2) return nullptr;
+    return std::next(at) == options.end() ? options.front() : *std::next(at);
+}
+
+/// What a key does to a button, an option, a check box or a list that has the focus.
+void operate(Control& control, const Key& key)
+{
+    const bool presses = key.code == platform::keySpace ||
+                         (key.code == platform::keyEnter && control.kind == Kind::commandButton);
+    if (presses && control.kind != Kind::listBox) return choose(control);
+    const bool backwards = key.code == platform::keyUp || key.code == platform::keyLeft;
+    const bool forwards = key.code == platform::keyDown || key.code == platform::keyRight;
+    if (!backwards && !forwards) return;
+    if (control.kind == Kind::optionButton) {
+        Control* neighbour = neighbourOption(control, backwards);
+        if (neighbour == nullptr) return;
+        neighbour->SetFocus();
+        return choose(*neighbour);
+    }
+    if (control.kind == Kind::listBox) {
+        auto& list = static_cast<screen::ListBox&>(control);
+        const int wanted = list.ListIndex + (backwards ? -1 : 1);
+        if (wanted < 0 || wanted >= static_cast<int>(list.items.size())) return;
+        list.ListIndex = wanted;
+        if (list.Click != nullptr) run(list.Click);
+    }
+}
+
+screen::Grid* gridInView()
+{
+    screen::Form* form = screen::activeForm();
+    if (form == nullptr) return nullptr;
+    for (Control* control : form->controls())
+        if (control->kind == Kind::grid && control->seen()) return static_cast<screen::Grid*>(control);
+    return nullptr;
+}
+
+void moveInGrid(screen::Grid& grid, bool up)
+{
+    storage::RecordSet& rows = grid.data->Recordset;
+    if (!rows.isOpen() || !rows.currentKey()) return;
+    const std::int64_t stood = *rows.currentKey();
+    if (up)
+        rows.MovePrevious();
+    else
+        rows.MoveNext();
+    if (!rows.currentKey()) rows.moveTo(stood);
+}
+
+/// Ctrl with an arrow or Delete acts on the rows in view, wherever the focus is.
+bool actsOnGrid(const Key& key)
+{
+    const bool arrow = key.code == platform::keyUp || key.code == platform::keyDown;
+    if (!key.ctrl || (!arrow && key.code != platform::keyDelete)) return false;
+    screen::Grid* grid = gridInView();
+    if (grid == nullptr) return true;
+    if (arrow)
+        run([&] { moveInGrid(*grid, key.code == platform::keyUp); });
+    else if (grid->RowTouched != nullptr)
+        run(grid->RowTouched);
+    return true;
+}
+
+void openHelp()
+{
+    const screen::Form* form = screen::activeForm();
+    if (form == nullptr || form->HelpContextID == 0) return;
+    platform::machine().help.open(form->HelpContextID);
+}
+
+}  // namespace
+
+Engine::Engine(std::vector<screen::Form*> forms, EntrySource& source, PictureSink* sink)
+    : forms_(std::move(forms)), source_(source), sink_(sink)
+{
+}
+
+void Engine::handle(const QueueEntry& entry)
+{
+    runHandlersOf(entry);
+    settleFocus();
+}
+
+void Engine::runHandlersOf(const QueueEntry& entry)
+{
+    struct Visitor {
+        Engine& engine;
+        void operator()(const KeyWentDown& e) const { e.repeat ? engine.keyRepeats(e.key) : engine.keyWentDown(e.key); }
+        void operator()(const KeyWentUp& e) const { engine.keyWentUp(e.key); }
+        void operator()(const TextPasted& e) const { engine.pasted(e.text); }
+        void operator()(const ControlClicked& e) const { engine.clicked(*e.control); }
+        void operator()(const ControlDoubleClicked& e) const { engine.doubleClicked(*e.control); }
+        void operator()(const FocusAsked& e) const { engine.takeFocus(*e.control); }
+        void operator()(const CaretPlaced& e) const { engine.caretPlaced(e); }
+        void operator()(const ListItemPicked& e) const { engine.listItemPicked(e); }
+        void operator()(const RowPicked& e) const { engine.rowPicked(e); }
+        void operator()(const GridScrolled& e) const
+        {
+            engine.gridViews_.scroll(static_cast<const screen::Grid&>(*e.control), e.rows, e.capacity);
+        }
+        void operator()(const CloseAsked&) const
+        {
+            const screen::Form* form = screen::activeForm();
+            if (form != nullptr && form->hooks.exitEntry != nullptr) run(form->hooks.exitEntry);
+        }
+        void operator()(const BoxAnswered&) const {}  // the box that it answers is gone
+        void operator()(const PictureAsked&) const {}
+    };
+    std::visit(Visitor{*this}, entry);
+}
+
+void Engine::serve()
+{
+    settleFocus();
+    while (const std::optional<QueueEntry> entry = source_.poll())
+        handle(*entry);
+    tick();
+    publish();
+}
+
+void Engine::tick()
+{
+    const platform::MonotonicTime now = platform::machine().clock.monotonic();
+    for (screen::Form* form : forms_) {
+        if (form->life != screen::FormLife::loaded) continue;
+        for (Control* control : form->controls()) {
+            if (control->kind != Kind::timer) continue;
+            auto& timer = static_cast<screen::Timer&>(*control);
+            const platform::MonotonicTime interval = std::chrono::milliseconds(timer.Interval);
+            if (!timer.Enabled || timer.Interval <= 0 || timer.Tick == nullptr) continue;
+            if (timer.due.count() == 0) timer.due = now + interval;
+            if (now < timer.due) continue;
+            timer.due += interval * ((now - timer.due) / interval + 1);
+            run(timer.Tick);
+        }
+    }
+}
+
+std::optional<platform::MonotonicTime> Engine::nextTick() const
+{
+    std::optional<platform::MonotonicTime> next;
+    for (const screen::Form* form : forms_) {
+        if (form->life != screen::FormLife::loaded) continue;
+        for (const Control* control : form->controls()) {
+            if (control->kind != Kind::timer) continue;
+            const auto& timer = static_cast<const screen::Timer&>(*control);
+            if (!timer.Enabled || timer.Interval <= 0 || timer.Tick == nullptr) continue;
+            next = next ? std::min(*next, timer.due) : timer.due;
+        }
+    }
+    return next;
+}
+
+void Engine::settleFocus()
+{
+    for (int moves = 0; moves < mostFocusMoves; ++moves) {
+        screen::Form* form = screen::activeForm();
+        if (form == nullptr) return;
+        if (form != focusForm_) {
+            focusForm_ = form;
+            form->gotFocus = nullptr;
+        }
+        moveLostFocus(*form);
+        Control* field = form->ActiveControl;
+        if (field == form->gotFocus) return;
+        form->gotFocus = field;
+        if (field != nullptr && field->GotFocus != nullptr) run(field->GotFocus);
+    }
+}
+
+/// A field that was hidden or switched off hands the focus on to the next stop of the page, if the page has stops.
+void Engine::moveLostFocus(screen::Form& form)
+{
+    if (form.ActiveControl != nullptr && form.ActiveControl->canTakeFocus()) return;
+    Control* next = nextStop(form, form.ActiveControl, false);
+    if (next != nullptr) next->SetFocus();
+}
+
+void Engine::publish()
+{
+    if (sink_ == nullptr) return;
+    sink_->publish(makePicture(screen::activeForm(), gridViews_, ++pictures_));
+}
+
+void Engine::keyWentDown(const Key& key)
+{
+    if (isCharacterKey(key)) releaseEarlierCharacterKeys();
+    // The release of this key may have gone to a window that is not ours.
+    std::erase_if(downKeys_, [&](const DownKey& down) { return down.key.sameKeyAs(key); });
+    Control* field = focusedField();
+    downKeys_.push_back({key, field});
+    press(field, key);
+}
+
+void Engine::keyRepeats(const Key& key)
+{
+    const auto down = std::find_if(downKeys_.begin(), downKeys_.end(),
+                                   [&](const DownKey& candidate) { return candidate.key.sameKeyAs(key); });
+    if (down == downKeys_.end() || down->field == nullptr || actsOncePerPress(key.code)) return;
+    if (focusedField() != down->field) return;
+    press(down->field, key);
+}
+
+void Engine::keyWentUp(const Key& key)
+{
+    const auto down = std::find_if(downKeys_.begin(), downKeys_.end(),
+                                   [&](const DownKey& candidate) { return candidate.key.sameKeyAs(key); });
+    if (down == downKeys_.end()) return;
+    const bool reachedField = down->field != nullptr;
+    const Key pressed = down->key;
+    downKeys_.erase(down);
+    if (reachedField) deliverKeyUp(pressed);
+}
+
+/// A fast operator presses the next letter before the last one is up: the earlier release comes first, so that what it
+/// sets off (the third digit of a code moves on) happens before the new letter looks for its field.
+void Engine::releaseEarlierCharacterKeys()
+{
+    std::vector<DownKey> earlier;
+    std::copy_if(downKeys_.begin(), downKeys_.end(), std::back_inserter(earlier),
+                 [](const DownKey& down) { return isCharacterKey(down.key); });
+    std::erase_if(downKeys_, [](const DownKey& down) { return isCharacterKey(down.key); });
+    for (const DownKey& down : earlier)
+        if (down.field != nullptr) deliverKeyUp(down.key);
+}
+
+void Engine::deliverKeyUp(const Key& key)
+{
+    Control* field = focusedField();
+    if (field == nullptr) return;
+    int code = key.code;
+    if (field->KeyUp != nullptr) run([&] { field->KeyUp(code); });
+    settleFocus();
+}
+
+void Engine::press(Control* field, const Key& key)
+{
+    screen::Form* form = screen::activeForm();
+    if (form == nullptr) return;
+    if (key.alt && key.character != 0) {
+        Control* named = screen::controlWithMnemonic(*form, key.character);
+        if (named != nullptr) clicked(*named);
+        return;
+    }
+    if (actsOnGrid(key)) return;
+    if (key.code == platform::keyTab && !key.ctrl && !key.alt) {
+        Control* next = nextStop(*form, field, key.shift);
+        if (next != nullptr) return next->SetFocus();
+    }
+
+    int code = key.code;
+    if (field != nullptr && field->KeyDown != nullptr) run([&] { field->KeyDown(code); });
+    if (code == platform::keyNone && key.code != platform::keyNone) return;
+    if (code == platform::keyF1) return openHelp();
+    if (field == nullptr || isParkingPlace(*field) || &field->form != screen::activeForm()) return;
+
+    char32_t character = characterOf(key);
+    const bool types = character != 0;
+    if (types && field->KeyPress != nullptr) run([&] { field->KeyPress(character); });
+    if (types && character == 0) return;
+    if (field->kind != Kind::textBox) return operate(*field, key);
+
+    auto& box = static_cast<screen::TextBox&>(*field);
+    if (character == platform::charBackspace)
+        screen::eraseBackwards(box);
+    else if (character >= U' ')
+        screen::typeCharacter(box, character);
+    else if (!types)
+        screen::editWithKey(box, key);
+}
+
+void Engine::pasted(const std::string& text)
+{
+    Control* field = focusedField();
+    if (field == nullptr || field->kind != Kind::textBox || isParkingPlace(*field)) return;
+    for (char32_t character : base::toCharacters(text)) {
+        if (character < U' ') continue;
+        if (field->KeyPress != nullptr) run([&] { field->KeyPress(character); });
+        if (character >= U' ') screen::typeCharacter(static_cast<screen::TextBox&>(*field), character);
+    }
+}
+
+void Engine::clicked(Control& control)
+{
+    if (!canBeClicked(control)) return;
+    takeFocus(control);
+    settleFocus();
+    if (canBeClicked(control)) choose(control);
+}
+
+void Engine::doubleClicked(Control& control)
+{
+    if (!canBeClicked(control)) return;
+    takeFocus(control);
+    settleFocus();
+    if (canBeClicked(control) && control.DblClick != nullptr) run(control.DblClick);
+}
+
+void Engine::takeFocus(Control& control)
+{
+    if (&control.form == screen::activeForm()) control.SetFocus();
+}
+
+void Engine::caretPlaced(const CaretPlaced& entry)
+{
+    if (!canBeClicked(*entry.control) || entry.control->kind != Kind::textBox) return;
+    takeFocus(*entry.control);
+    settleFocus();
+    screen::placeCaret(static_cast<screen::TextBox&>(*entry.control), entry.caret, entry.extend);
+}
+
+void Engine::listItemPicked(const ListItemPicked& entry)
+{
+    if (!canBeClicked(*entry.control) || entry.control->kind != Kind::listBox) return;
+    auto& list = static_cast<screen::ListBox&>(*entry.control);
+    takeFocus(list);
+    settleFocus();
+    if (entry.index < 0 || entry.index >= static_cast<int>(list.items.size())) return;
+    list.ListIndex = entry.index;
+    if (list.Click != nullptr) run(list.Click);
+}
+
+void Engine::rowPicked(const RowPicked& entry)
+{
+    if (!canBeClicked(*entry.control) || entry.control->kind != Kind::grid) return;
+    auto& grid = static_cast<screen::Grid&>(*entry.control);
+    run([&] {
+        grid.data->Recordset.moveTo(entry.key);
+        const auto gesture = entry.doubleClick ? screen::RowGesture::doubleClick : screen::RowGesture::click;
+        if (gesture == grid.gesture && grid.RowTouched != nullptr) grid.RowTouched();
+    });
+}
+
+}  // namespace app

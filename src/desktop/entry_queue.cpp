@@ -1,0 +1,93 @@
+#include "desktop/entry_queue.h"
+
+#include <algorithm>
+
+#include "base/runtime_error.h"
+
+namespace desktop {
+
+namespace {
+
+bool isAnswer(const app::QueueEntry& entry)
+{
+    return std::holds_alternative<app::BoxAnswered>(entry);
+}
+
+}  // namespace
+
+void EntryQueue::post(app::QueueEntry entry)
+{
+    {
+        const std::lock_guard lock(mutex_);
+        entries_.push_back(std::move(entry));
+    }
+    changed_.notify_one();
+}
+
+std::optional<app::QueueEntry> EntryQueue::poll()
+{
+    const std::lock_guard lock(mutex_);
+    if (stopped_) throw base::ProgramEnd{};
+    if (entries_.empty()) return std::nullopt;
+    app::QueueEntry entry = std::move(entries_.front());
+    entries_.pop_front();
+    return entry;
+}
+
+std::optional<app::QueueEntry> EntryQueue::waitUntil(std::optional<platform::MonotonicTime> deadline)
+{
+    std::unique_lock lock(mutex_);
+    const auto ready = [this] { return stopped_ || !entries_.empty(); };
+    waiting_ = Waiting::forEntry;
+    if (deadline)
+        changed_.wait_until(lock, std::chrono::steady_clock::time_point(*deadline), ready);
+    else
+        changed_.wait(lock, ready);
+    waiting_ = Waiting::no;
+    if (stopped_ || entries_.empty()) return std::nullopt;
+    app::QueueEntry entry = std::move(entries_.front());
+    entries_.pop_front();
+    return entry;
+}
+
+bool EntryQueue::answered() const
+{
+    return std::any_of(entries_.begin(), entries_.end(), isAnswer);
+}
+
+platform::Button EntryQueue::waitForAnswer()
+{
+    std::unique_lock lock(mutex_);
+    waiting_ = Waiting::forAnswer;
+    changed_.wait(lock, [this] { return stopped_ || answered(); });
+    waiting_ = Waiting::no;
+    if (stopped_) throw base::ProgramEnd{};
+    const auto answer = std::find_if(entries_.begin(), entries_.end(), isAnswer);
+    const platform::Button button = std::get<app::BoxAnswered>(*answer).button;
+    entries_.erase(answer);
+    return button;
+}
+
+void EntryQueue::stop()
+{
+    {
+        const std::lock_guard lock(mutex_);
+        stopped_ = true;
+    }
+    changed_.notify_all();
+}
+
+bool EntryQueue::stopped() const
+{
+    const std::lock_guard lock(mutex_);
+    return stopped_;
+}
+
+bool EntryQueue::idle() const
+{
+    const std::lock_guard lock(mutex_);
+    if (waiting_ == Waiting::forEntry) return entries_.empty();
+    return waiting_ == Waiting::forAnswer && !answered();
+}
+
+}  // namespace desktop

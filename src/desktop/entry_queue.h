@@ -1,0 +1,50 @@
+// The queue between the window thread, which posts what happens, and the program thread, which handles it.
+#pragma once
+
+#include <condition_variable>
+#include <deque>
+#include <mutex>
+#include <optional>
+
+#include "app/queue.h"
+#include "platform/machine.h"
+
+namespace desktop {
+
+class EntryQueue final : public app::EntrySource {
+ public:
+    /// Appends an entry. From any thread.
+    void post(app::QueueEntry entry);
+
+    /// The next entry if one waits. Throws ProgramEnd once the queue is stopped: whatever the program is in the middle
+    /// of ends there. Program thread only, like the next two.
+    std::optional<app::QueueEntry> poll() override;
+
+    /// Waits for the next entry, at most until the monotonic clock reaches `deadline` if there is one. Nothing when
+    /// that moment came first or the queue is stopped.
+    std::optional<app::QueueEntry> waitUntil(std::optional<platform::MonotonicTime> deadline);
+
+    /// Waits for the answer of the message box on the screen. Everything else that arrives stays in the queue, in its
+    /// order. Throws ProgramEnd once the queue is stopped.
+    platform::Button waitForAnswer();
+
+    /// Ends all waiting, now and later. From any thread.
+    void stop();
+    bool stopped() const;
+
+    /// True when the program thread waits and there is nothing that it could take. From any thread.
+    bool idle() const;
+
+ private:
+    enum class Waiting { no, forEntry, forAnswer };
+
+    bool answered() const;
+
+    mutable std::mutex mutex_;
+    std::condition_variable changed_;
+    std::deque<app::QueueEntry> entries_;
+    Waiting waiting_ = Waiting::no;
+    bool stopped_ = false;
+};
+
+}  // namespace desktop

@@ -1,0 +1,82 @@
+#include "desktop/grid_columns.h"
+
+#include <algorithm>
+#include <numeric>
+
+#include "desktop/characters.h"
+
+namespace desktop {
+
+namespace {
+
+double sum(const std::vector<double>& values)
+{
+    return std::accumulate(values.begin(), values.end(), 0.0);
+}
+
+std::vector<std::size_t> columnsInSight(const app::GridPicture& grid)
+{
+    std::vector<std::size_t> columns;
+    for (std::size_t column = 0; column < std::min(grid.titles.size(), grid.columnWidths.size()); ++column)
+        if (grid.columnWidths[column] > 0) columns.push_back(column);
+    return columns;
+}
+
+double widestText(const app::GridPicture& grid, std::size_t column, const QFontMetricsF& metrics)
+{
+    double widest = metrics.horizontalAdvance(toolkitText(grid.titles[column]));
+    for (const storage::Row& row : grid.rows->rows)
+        if (column < row.columns.size())
+            widest = std::max(widest, metrics.horizontalAdvance(toolkitText(row.columns[column])));
+    return widest;
+}
+
+}  // namespace
+
+std::vector<double> sharedWidths(std::vector<double> widths, const std::vector<double>& needs, double room)
+{
+    const double squeeze = std::min(1.0, room / std::max(1.0, sum(widths)));
+    double missing = 0;
+    double spare = 0;
+    for (std::size_t i = 0; i < widths.size(); ++i) {
+        widths[i] *= squeeze;
+        missing += std::max(0.0, needs[i] - widths[i]);
+        spare += std::max(0.0, widths[i] - needs[i]);
+    }
+    if (missing <= 0) return widths;
+
+    const double fromFreeRoom = std::min(missing, room - sum(widths));
+    const double fromOthers = std::min(missing - fromFreeRoom, spare);
+    const double shareGiven = spare > 0 ? fromOthers / spare : 0;
+    const double shareTaken = (fromFreeRoom + fromOthers) / missing;
+    for (std::size_t i = 0; i < widths.size(); ++i) {
+        const double lack = needs[i] - widths[i];
+        widths[i] += lack * (lack > 0 ? shareTaken : shareGiven);
+    }
+    return widths;
+}
+
+GridColumns layOutColumns(const app::ControlPicture& grid, const FormScale& scale, Fonts& fonts, double room,
+                          int wantedFontPixels)
+{
+    const std::vector<std::size_t> seen = columnsInSight(*grid.grid);
+    std::vector<double> widths;
+    for (std::size_t column : seen)
+        widths.push_back(scale.x(grid.grid->columnWidths[column]));
+
+    GridColumns layout;
+    std::vector<double> needs;
+    for (layout.fontPixels = wantedFontPixels;; --layout.fontPixels) {
+        const QFontMetricsF& metrics = fonts.metrics(layout.fontPixels, grid.bold);
+        needs.clear();
+        for (std::size_t column : seen)
+            needs.push_back(widestText(*grid.grid, column, metrics) + 2 * cellMargin + 1);
+        if (sum(needs) <= room || layout.fontPixels <= smallestFontPixels) break;
+    }
+    const std::vector<double> shared = sharedWidths(widths, needs, room);
+    for (std::size_t i = 0; i < seen.size(); ++i)
+        layout.columns.push_back({seen[i], shared[i]});
+    return layout;
+}
+
+}  // namespace desktop

@@ -1,0 +1,65 @@
+#include "desktop/list_box.h"
+
+#include <algorithm>
+
+#include "desktop/characters.h"
+
+namespace desktop {
+
+int ListLayout::itemAt(QPoint point) const
+{
+    if (!body.contains(point)) return -1;
+    const int item = top + (point.y() - body.top()) / rowHeight;
+    return item < items ? item : -1;
+}
+
+ListLayout layOutList(const app::ControlPicture& list, const FormScale& scale, int top)
+{
+    ListLayout layout;
+    layout.place = scale.pixels(list.place);
+    layout.body = layout.place.adjusted(2, 2, -2, -2);
+    layout.items = static_cast<int>(list.items.size());
+    const int wanted = scale.fontPixels(list.fontPoints);
+    layout.rowHeight = wanted + wanted / 3 + 1;
+    layout.capacity = std::max(1, layout.body.height() / layout.rowHeight);
+    const int lastTop = std::max(0, layout.items - layout.capacity);
+    layout.top = std::clamp(top, 0, lastTop);
+    if (lastTop == 0) return layout;
+    const int barWidth = ScrollBar::widthAt(scale);
+    const QRect bar(layout.body.right() + 1 - barWidth, layout.body.top(), barWidth, layout.body.height());
+    layout.scrollBar = ScrollBar(bar, layout.top > 0, layout.top < lastTop);
+    layout.body.setRight(bar.left() - 1);
+    return layout;
+}
+
+int topThatShows(const ListLayout& layout, int item)
+{
+    if (item < 0) return layout.top;
+    return std::clamp(layout.top, item - layout.capacity + 1, item);
+}
+
+void paintList(Canvas& canvas, const app::ControlPicture& list, const ListLayout& layout)
+{
+    QPainter& painter = canvas.painter;
+    painter.save();
+    painter.fillRect(layout.place, toolkitColour(list.background));
+    painter.setPen(edgeColour());
+    painter.drawRect(layout.place.adjusted(0, 0, -1, -1));
+    if (list.hasFocus) paintFocus(canvas, layout.place);
+    painter.setClipRect(layout.body, Qt::IntersectClip);
+    const int last = std::min(layout.items, layout.top + layout.capacity);
+    for (int item = layout.top; item < last; ++item) {
+        const QRect line(layout.body.left(), layout.body.top() + (item - layout.top) * layout.rowHeight,
+                         layout.body.width(), layout.rowHeight);
+        const bool chosen = item == list.listIndex;
+        if (chosen) painter.fillRect(line, selectionColour());
+        painter.setPen(chosen ? selectedTextColour() : textColourOf(list));
+        paintFittedText(
+            canvas, QRectF(line).adjusted(4, 0, -2, 0), toolkitText(list.items[static_cast<std::size_t>(item)]),
+            canvas.scale.fontPixels(list.fontPoints), list.bold, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine);
+    }
+    painter.restore();
+    if (!layout.scrollBar.place().isNull()) layout.scrollBar.paint(canvas);
+}
+
+}  // namespace desktop

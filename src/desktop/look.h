@@ -1,0 +1,44 @@
+// Colours of the window, and what all painters share.
+#pragma once
+
+#include <QColor>
+#include <QPainter>
+
+#include "app/picture.h"
+#include "desktop/fonts.h"
+#include "desktop/form_scale.h"
+
+namespace desktop {
+
+/// What a painter paints with.
+struct Canvas {
+    QPainter& painter;
+    const FormScale& scale;
+    Fonts& fonts;
+};
+
+QColor toolkitColour(screen::Colour colour);
+
+/// Behind all controls.
+QColor formColour();
+/// Around the control that has the focus.
+QColor focusColour();
+/// Behind selected text and the chosen item of a list; the text upon it.
+QColor selectionColour();
+QColor selectedTextColour();
+/// Behind the row on which a grid stands.
+QColor currentRowColour();
+/// Lines around and between things.
+QColor edgeColour();
+QColor faintLineColour();
+
+/// The colour of the control's text: greyed when the control is off, but with enough contrast to its own background.
+QColor textColourOf(const app::ControlPicture& control);
+
+/// The frame around a control that has the focus.
+void paintFocus(Canvas& canvas, const QRect& place);
+
+/// Text in a box, at most `wanted` pixels high and as much smaller as the box asks for.
+void paintFittedText(Canvas& canvas, const QRectF& box, const QString& text, int wanted, bool bold, int flags);
+
+}  // namespace desktop

@@ -1,0 +1,48 @@
+#include "platform/files.h"
+
+#include <algorithm>
+#include <system_error>
+
+#include "base/text.h"
+
+namespace platform {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path nativePath(std::string_view designPath)
+{
+    std::u8string text(designPath.begin(), designPath.end());
+    std::replace(text.begin(), text.end(), u8'\\', static_cast<char8_t>('/'));
+    return fs::path(text);
+}
+
+/// The entry of `folder` whose name is `name` but for case; `name` itself when there is none.
+fs::path entryIgnoringCase(const fs::path& folder, const fs::path& name)
+{
+    std::error_code ignored;
+    for (fs::directory_iterator entry(folder, ignored), end; !ignored && entry != end; entry.increment(ignored))
+        if (base::equalIgnoringCase(pathText(entry->path().filename()), pathText(name))) return entry->path().filename();
+    return name;
+}
+
+}  // namespace
+
+fs::path resolve(std::string_view designPath)
+{
+    const fs::path asWritten = nativePath(designPath);
+    std::error_code ignored;
+    if (asWritten.empty() || fs::exists(asWritten, ignored)) return asWritten;
+    if (!asWritten.has_parent_path() || asWritten.parent_path() == asWritten) return asWritten;
+    const fs::path folder = resolve(pathText(asWritten.parent_path()));
+    return folder / entryIgnoringCase(folder, asWritten.filename());
+}
+
+std::string pathText(const fs::path& path)
+{
+    const std::u8string text = path.generic_u8string();
+    return {text.begin(), text.end()};
+}
+
+}  // namespace platform

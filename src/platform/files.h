@@ -1,0 +1,18 @@
+// Finding the program's files on a file system that may respect case.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+/// The native path for a path in the program's own form: UTF-8, its parts separated by backslashes behind the
+/// program's folder ("/home/yo2xyz/station\LogKelvo.mdb"). A part that is not there as it is written is looked up
+/// without regard to case; parts that do not exist at all stay as written, so the result can be used to make them.
+std::filesystem::path resolve(std::string_view designPath);
+
+/// A native path as UTF-8 text.
+std::string pathText(const std::filesystem::path& path);
+
+}  // namespace platform

@@ -1,0 +1,135 @@
+// What the program asks of the machine under it, one small interface a subject. A driver of each stands in script/
+// (virtual time, no screen) and in desktop/ (the real thing). All calls come from the program thread.
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <string>
+
+namespace platform {
+
+/// Local calendar time in whole seconds.
+using LocalTime = std::chrono::local_seconds;
+
+/// Time on a clock that never jumps, since an arbitrary start.
+using MonotonicTime = std::chrono::nanoseconds;
+
+/// A modal message box.
+struct MessageBoxRequest {
+    std::string text;
+    std::string title;
+    int style = 0;  ///< sum of a button code (0 OK, 1 OK and Cancel, 4 Yes and No), an icon code (16, 32, 48, 64) and 256
+                    ///< when the second button is the default
+};
+
+/// Answers of message boxes.
+enum Button : int { buttonOk = 1, buttonCancel = 2, buttonYes = 6, buttonNo = 7 };
+
+class MessageBoxes {
+   public:
+    virtual ~MessageBoxes() = default;
+    /// Shows the box and waits for the answer.
+    virtual Button show(const MessageBoxRequest& request) = 0;
+};
+
+class Notices {
+   public:
+    virtual ~Notices() = default;
+    /// Tells the operator something in a quiet line, without stopping anything.
+    virtual void notice(const std::string& text) = 0;
+    /// The last notice of this program run, empty when there was none.
+    virtual std::string last() const = 0;
+};
+
+class Clock {
+   public:
+    virtual ~Clock() = default;
+    /// The present local date and time.
+    virtual LocalTime now() const = 0;
+    virtual MonotonicTime monotonic() const = 0;
+    /// Blocks the program thread until the monotonic clock reaches `deadline`; returns at once when that is past.
+    virtual void sleepUntil(MonotonicTime deadline) = 0;
+};
+
+/// The keys that long work may ask for directly.
+enum class PolledKey { end, escape };
+
+class KeyState {
+   public:
+    virtual ~KeyState() = default;
+    /// True when the key is down now, or has gone down since the last look.
+    virtual bool pressed(PolledKey key) = 0;
+    /// Forgets presses that nobody looked at. A key that is down stays down.
+    virtual void forget() = 0;
+};
+
+class Clipboard {
+   public:
+    virtual ~Clipboard() = default;
+    virtual std::string text() const = 0;
+    virtual void setText(const std::string& text) = 0;
+};
+
+class Sound {
+   public:
+    virtual ~Sound() = default;
+    /// Number of devices that can play sound.
+    virtual int outputDevices() const = 0;
+};
+
+class HelpViewer {
+   public:
+    virtual ~HelpViewer() = default;
+    /// Opens the help file of the program at a context number.
+    virtual void open(int context) = 0;
+};
+
+struct ScreenSize {
+    int width = 800;  ///< pixels
+    int height = 600;
+};
+
+class Screen {
+   public:
+    virtual ~Screen() = default;
+    virtual ScreenSize size() const = 0;
+};
+
+class Installation {
+   public:
+    virtual ~Installation() = default;
+    /// Folder of the program, with its databases and set-up files, without a separator at its end.
+    virtual std::string programFolder() const = 0;
+    /// The words behind the program's name, joined by blanks.
+    virtual std::string commandLine() const = 0;
+};
+
+/// All drivers of one machine. Whoever makes it owns them.
+struct Machine {
+    MessageBoxes& messageBoxes;
+    Notices& notices;
+    Clock& clock;
+    KeyState& keyState;
+    Clipboard& clipboard;
+    Sound& sound;
+    HelpViewer& help;
+    Screen& screen;
+    Installation& installation;
+};
+
+/// The machine that the running program stands on. A programming fault when no program runs.
+Machine& machine();
+
+/// Handles everything that waits in the queue, in the middle of the running handler, and returns.
+using EventServing = std::function<void()>;
+
+/// Puts the program on a machine, with the program loop's way to serve events; nullptr takes it off.
+void setMachine(Machine* current, EventServing serving = {});
+
+/// For long work: serves the events that wait. Handlers nest.
+void serveEvents();
+
+/// Shows a box with an OK button, or as `style` says (see MessageBoxRequest), and returns the answer.
+Button msgBox(const std::string& text, int style = 0, const std::string& title = {});
+
+}  // namespace platform

@@ -1,0 +1,102 @@
+#include "platform/text_file.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+
+#include "base/number.h"
+#include "base/runtime_error.h"
+#include "base/text.h"
+#include "platform/files.h"
+
+namespace platform {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string nameOf(const fs::path& path)
+{
+    return pathText(path.filename());
+}
+
+bool diskIsFull(const fs::path& folder)
+{
+    std::error_code unknown;
+    const fs::space_info space = fs::space(folder, unknown);
+    return !unknown && space.available == 0;
+}
+
+}  // namespace
+
+std::string readTextFile(std::string_view designPath)
+{
+    const fs::path path = resolve(designPath);
+    std::error_code ignored;
+    if (!fs::exists(path, ignored)) throw base::RuntimeError(base::noSuchFile, nameOf(path) + " is not there");
+    std::ifstream file(path, std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    if (!file) throw base::RuntimeError(base::existsOrNoAccess, nameOf(path) + " cannot be read");
+    return base::fromWindows1250(bytes);
+}
+
+void writeTextFile(std::string_view designPath, std::string_view text)
+{
+    const fs::path path = resolve(designPath);
+    std::error_code failed;
+    if (!fs::is_directory(path.parent_path(), failed))
+        throw base::RuntimeError(base::noSuchFolder, "The folder of " + nameOf(path) + " is not there");
+    fs::path beside = path;
+    beside += ".new";
+    {
+        std::ofstream file(beside, std::ios::binary | std::ios::trunc);
+        file << base::toWindows1250(text);
+        file.close();
+        if (!file) failed = std::make_error_code(std::errc::io_error);
+    }
+    if (!failed) fs::rename(beside, path, failed);
+    if (!failed) return;
+    const bool full = diskIsFull(path.parent_path());
+    std::error_code ignored;
+    fs::remove(beside, ignored);
+    if (full) throw base::RuntimeError(base::diskFull, "The disk is full: " + nameOf(path) + " was not written");
+    throw base::RuntimeError(base::existsOrNoAccess, nameOf(path) + " cannot be written");
+}
+
+std::string FieldReader::text()
+{
+    at_ = text_.find_first_not_of(' ', at_);
+    if (at_ >= text_.size()) throw base::RuntimeError(base::endOfFile, "The file ends too early");
+    std::string value;
+    if (text_[at_] == '"') {
+        const std::size_t close = text_.find('"', at_ + 1);
+        value = text_.substr(at_ + 1, close == std::string::npos ? close : close - at_ - 1);
+        at_ = close == std::string::npos ? text_.size() : text_.find_first_of(",\r\n", close);
+    } else {
+        const std::size_t end = text_.find_first_of(",\r\n", at_);
+        value = text_.substr(at_, end == std::string::npos ? end : end - at_);
+        at_ = end;
+    }
+    skipSeparator();
+    return value;
+}
+
+std::int16_t FieldReader::number()
+{
+    return base::toInt16(text());
+}
+
+/// One comma or one line end belongs to the value before it.
+void FieldReader::skipSeparator()
+{
+    if (at_ >= text_.size()) {
+        at_ = text_.size();
+        return;
+    }
+    const bool carriageReturn = text_[at_] == '\r';
+    ++at_;
+    if (carriageReturn && at_ < text_.size() && text_[at_] == '\n') ++at_;
+}
+
+}  // namespace platform

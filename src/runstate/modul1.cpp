@@ -1,0 +1,3 @@
+#include "runstate/modul1.h"
+
+runstate::Modul1State Modul1;

@@ -1,0 +1,306 @@
+#include "runstate/road.h"
+
+#include <string>
+
+#include "band/stage.h"
+#include "band/switching.h"
+#include "base/number.h"
+#include "base/runtime_error.h"
+#include "base/text.h"
+#include "entry/flow.h"
+#include "entry/log_table.h"
+#include "geo/locator.h"
+#include "platform/machine.h"
+#include "runstate/modul1.h"
+#include "runstate/setup_files.h"
+#include "screen/frm_anzeigen.h"
+#include "screen/frm_init.h"
+#include "screen/frm_qso.h"
+
+namespace runstate {
+
+namespace {
+
+constexpr std::uint16_t maraton = 7;
+constexpr int styleYesNoQuestion = 36;
+
+/// A number typed into a field that nobody checks: empty or no number counts 0.
+std::int16_t countIn(const screen::TextBox& box)
+{
+    std::int16_t count = 0;
+    base::passing<base::notANumber, base::overflow>([&] { count = base::toInt16(box.Text.get()); });
+    return count;
+}
+
+/// False, with a message, when the Maraton contest lacks the operator's name.
+bool nameIsThere()
+{
+    constexpr std::size_t shortestName = 2;
+    if (Modul1.ConcId != maraton || base::length(FrmInit.TxtMyName.Text) >= shortestName) return true;
+    platform::msgBox("COMPLECTATI BOXUL MY NAME");
+    FrmInit.TxtMyName.SetFocus();
+    return false;
+}
+
+/// A checked box colours the field of the entry form that it belongs to.
+std::uint16_t repeatFlag(const screen::CheckBox& box, screen::Control& field)
+{
+    field.BackColor = box.Value == 1 ? screen::green : screen::yellow;
+    return box.Value == 1 ? 100 : 0;
+}
+
+void takeMessages()
+{
+    Modul1.TxtCwF1 = FrmInit.TxtF1.Text;
+    Modul1.TxtCwF2 = FrmInit.TxtF2.Text;
+    Modul1.TxtCwF3 = FrmInit.TxtF3.Text;
+    Modul1.TxtCwF4 = FrmInit.TxtF4.Text;
+    Modul1.TxtCwF5 = FrmInit.TxtF5.Text;
+    Modul1.TxtCwF6 = FrmInit.TxtF6.Text;
+    Modul1.TxtCwF7 = FrmInit.TxtF7.Text;
+    Modul1.CwPort = countIn(FrmInit.TxtCP);
+}
+
+void handMessagesOver()
+{
+    FrmQSO.TxtF1.Text = Modul1.TxtCwF1;
+    FrmQSO.TxtF2.Text = Modul1.TxtCwF2;
+    FrmQSO.TxtF3.Text = Modul1.TxtCwF3;
+    FrmQSO.TxtF4.Text = Modul1.TxtCwF4;
+    FrmQSO.TxtF5.Text = Modul1.TxtCwF5;
+    FrmQSO.TxtF6.Text = Modul1.TxtCwF6;
+    FrmQSO.TxtF7.Text = Modul1.TxtCwF7;
+}
+
+void takeStation()
+{
+    Modul1.SerNrStart = countIn(FrmInit.TxtRpNr);
+    Modul1.MyCall = FrmInit.TxtMyCall.Text;
+    Modul1.TimeDiff = FrmInit.TxtTime.Text;
+    Modul1.MyQRA = FrmInit.txtMyQRA.Text;
+    Modul1.MyName = base::trim(FrmInit.TxtMyName.Text);
+    Modul1.QraLoc = Modul1.MyQRA;
+    geo::ClcCoord();
+    Modul1.LonMy = Modul1.LonCur;
+    Modul1.LatMy = Modul1.LatCur;
+    FrmQSO.LblMyQRA.Caption = Modul1.MyQRA;
+    Modul1.SerNr = countIn(FrmInit.TxtRpNr);
+}
+
+/// A set-up file that cannot be written must not keep an operator from the contest: it is told, and he goes on.
+void writeSetUp(void (*write)())
+{
+    base::quietly(write);
+}
+
+void showEntryForm()
+{
+    if (FrmQSO.life != screen::FormLife::loaded) screen::load(FrmQSO);
+    FrmQSO.Show();
+    FrmInit.Unload();
+    Modul1.GridRebuild = 100;
+    FrmQSO.LblMyCall.Caption = Modul1.MyCall;
+}
+
+/// Code labels by contest and band. From 1000 on they are left alone.
+void showSerial()
+{
+    constexpr std::int16_t tooLongToPad = 1000;
+    const bool wayBack = Modul1.ConcReturn == 100;
+    const bool keepsLabel = wayBack && Modul1.ConcId == maraton;
+    if (!keepsLabel) FrmQSO.LblCod.Caption = base::toText(Modul1.SerNr);
+    FrmQSO.txtRSTE2.Text = FrmQSO.LblCod.Caption;
+    FrmQSO.txtRSTe3.Text = FrmQSO.LblMyQRA.Caption;
+    if (Modul1.SerNr >= tooLongToPad || keepsLabel) return;
+
+    const std::string padded = base::paddedCode(Modul1.SerNr);
+    const int contest = Modul1.ConcId;
+    const bool allBands = contest == 2 || contest == 5 || contest == 8 || contest == 100;
+    if (!wayBack && allBands) {
+        FrmQSO.LblCod432.Caption = padded;
+        FrmQSO.LblCod1296.Caption = padded;
+    }
+    if (wayBack && Modul1.BandCur == 432) FrmQSO.LblCod432.Caption = padded;
+    if (wayBack && Modul1.BandCur == 1296) FrmQSO.LblCod1296.Caption = padded;
+    FrmQSO.LblCod.Caption = padded;
+}
+
+void showPaperDate()
+{
+    if (Modul1.OfflineInput != 100) return;
+    FrmQSO.TxtDate.Text = Modul1.DateOff;
+    Modul1.TimeOff = base::trim(base::left(Modul1.TimeOff, 3));
+    FrmQSO.TxtUTC.Text = Modul1.TimeOff;
+    FrmQSO.TxtDate.BackColor = screen::yellow;
+    FrmQSO.TxtUTC.BackColor = screen::yellow;
+}
+
+/// Band, stage and mode as the run state holds them.
+void resume()
+{
+    const std::int32_t band = Modul1.BandCur;
+    if (band == 144) band::B144();
+    if (band == 432) band::B432();
+    if (band == 1296) band::B1296();
+    if (band > entry::highestNamedBand) {
+        band::BGHz();
+        Modul1.BandCur = base::roundToInt32(base::numericValue(FrmQSO.TxtFGHz.Text));
+    }
+    if (Modul1.Etapa == "A") band::EA();
+    if (Modul1.Etapa == "B") band::EB();
+    if (Modul1.ModeCur == "CW") band::MCw();
+    if (Modul1.ModeCur == "SSB") band::MSsb();
+    if (Modul1.ModeCur == "Fm") band::MFm();
+    if (Modul1.ModeCur == "Mixt") band::MMixt();
+}
+
+bool reallyEnd()
+{
+    Modul1.MsgText = "VRETI INTRADEVAR SA IESITI DIN PROGRAM ?";
+    Modul1.MsgTitle = "EXIT";
+    Modul1.MsgStyle = base::toText(styleYesNoQuestion);
+    const platform::Button answer = platform::msgBox(Modul1.MsgText, styleYesNoQuestion, Modul1.MsgTitle);
+    Modul1.MsgResp = base::toText(answer);
+    return answer == platform::buttonYes;
+}
+
+void openHelp(int context)
+{
+    platform::machine().help.open(context);
+}
+
+}  // namespace
+
+void QSOFahr()
+{
+    if (Modul1.OfflineInput != 100) Modul1.OfflineInput = 10;
+    if (Modul1.OfflineInput == 100) {
+        Modul1.DateOff = FrmInit.TxtSD.Text;
+        Modul1.TimeOff = FrmInit.TxtST.Text;
+    }
+    if (!nameIsThere()) return;
+    Modul1.CwRptFlag = repeatFlag(FrmInit.ChkCwRpt, FrmQSO.TxtF1);
+    Modul1.SsbRptFlag = repeatFlag(FrmInit.ChkSSBRpt, FrmQSO.TxtPauseSSB);
+    takeMessages();
+    writeSetUp(WriteTextCw);
+    if (Modul1.ConcReturn == 0) {
+        handMessagesOver();
+        if (FrmQSO.LblAnunt.Visible) entry::NoEnabl();
+    }
+    takeStation();
+    writeSetUp(WriteInitDat);
+    showEntryForm();
+    showSerial();
+    showPaperDate();
+    resume();
+}
+
+void mnuQSOfahren_Click()
+{
+    QSOFahr();
+}
+
+void mnuLOG_Click()
+{
+    screen::load(FrmAnzeigen);
+    FrmAnzeigen.Show();
+    FrmInit.Unload();
+    FrmAnzeigen.DBGrid5.Visible = false;
+}
+
+void Message10()
+{
+    if (!reallyEnd()) return;
+    screen::Form* form = screen::activeForm();
+    if (form == &FrmInit) Modul1.DbLog.Close();
+    if (form != nullptr) form->Unload();
+    throw base::ProgramEnd{};
+}
+
+namespace init {
+
+void mnuExit_Click()
+{
+    Message10();
+}
+
+void mnuInit_Click()
+{
+    openHelp(100);
+}
+
+void mnuInDat_Click()
+{
+    openHelp(200);
+}
+
+void mnuOutInit_Click()
+{
+    openHelp(300);
+}
+
+}  // namespace init
+
+namespace qso {
+
+void mnuAnfang_Click()
+{
+    Modul1.ConcReturn = 100;
+    const std::string name = FrmQSO.TxtMyName.Text;
+    screen::load(FrmInit);
+    FrmQSO.LblOffLine.Visible = false;
+    if (Modul1.ConcId == maraton) FrmInit.TxtMyName.Text = name;
+    FrmInit.Show();
+    FrmQSO.Hide();
+}
+
+void mnuBeenden_Click()
+{
+    Message10();
+}
+
+void mnuDescr_Click()
+{
+    openHelp(400);
+}
+
+void mnuSchimb_Click()
+{
+    openHelp(500);
+}
+
+void mnuInDat_Click()
+{
+    openHelp(600);
+}
+
+void mnuModif_Click()
+{
+    openHelp(700);
+}
+
+void mnuOutPag_Click()
+{
+    openHelp(800);
+}
+
+}  // namespace qso
+
+namespace review {
+
+void mnuAnfang_Click()
+{
+    Modul1.ConcReturn = 100;
+    screen::load(FrmInit);
+    FrmInit.Show();
+    FrmAnzeigen.Unload();
+}
+
+void mnuBeenden_Click()
+{
+    Message10();
+}
+
+}  // namespace review
+
+}  // namespace runstate

@@ -1,0 +1,70 @@
+#include "screen/mnemonic.h"
+
+#include <algorithm>
+
+#include "base/text.h"
+
+namespace screen {
+
+namespace {
+
+bool opensMenu(const Control& entry)
+{
+    const auto& controls = entry.form.controls();
+    return std::any_of(controls.begin(), controls.end(),
+                       [&](const Control* control) { return control->container == &entry; });
+}
+
+bool answersToMnemonic(const Control& control)
+{
+    switch (control.kind) {
+        case Kind::commandButton:
+        case Kind::optionButton:
+        case Kind::checkBox: return true;
+        case Kind::menuEntry: return control.container == nullptr && !opensMenu(control);
+        default: return false;
+    }
+}
+
+}  // namespace
+
+const std::string& captionOf(const Control& control)
+{
+    static const std::string none;
+    switch (control.kind) {
+        case Kind::label: return static_cast<const Label&>(control).Caption;
+        case Kind::commandButton: return static_cast<const CommandButton&>(control).Caption;
+        case Kind::optionButton: return static_cast<const OptionButton&>(control).Caption;
+        case Kind::checkBox: return static_cast<const CheckBox&>(control).Caption;
+        case Kind::frame: return static_cast<const Frame&>(control).Caption;
+        case Kind::menuEntry: return static_cast<const MenuEntry&>(control).Caption;
+        default: return none;
+    }
+}
+
+char32_t mnemonicOf(std::string_view caption)
+{
+    const std::size_t mark = caption.find('&');
+    if (mark == std::string_view::npos || mark + 1 == caption.size()) return 0;
+    return base::upper(base::characterAt(caption.substr(mark + 1), 1));
+}
+
+std::string withoutMnemonic(std::string_view caption)
+{
+    std::string shown(caption);
+    const std::size_t mark = shown.find('&');
+    if (mark != std::string::npos) shown.erase(mark, 1);
+    return shown;
+}
+
+Control* controlWithMnemonic(const Form& form, char32_t letter)
+{
+    const auto& controls = form.controls();
+    const auto found = std::find_if(controls.begin(), controls.end(), [&](const Control* control) {
+        return answersToMnemonic(*control) && control->seen() && control->enabled() &&
+               mnemonicOf(captionOf(*control)) == base::upper(letter);
+    });
+    return found == controls.end() ? nullptr : *found;
+}
+
+}  // namespace screen

@@ -1,0 +1,24 @@
+// The letters that Alt picks a control with: "&" stands before them in a caption.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "screen/form.h"
+
+namespace screen {
+
+/// Caption of a control, empty for a kind without one.
+const std::string& captionOf(const Control& control);
+
+/// The letter behind the first "&" of a caption, as a capital; 0 when there is none.
+char32_t mnemonicOf(std::string_view caption);
+
+/// The caption as it is shown, without the "&".
+std::string withoutMnemonic(std::string_view caption);
+
+/// The control of the form, seen and enabled, whose caption has this letter behind "&"; nullptr when there is none.
+/// An entry that only opens a menu is none.
+Control* controlWithMnemonic(const Form& form, char32_t letter);
+
+}  // namespace screen

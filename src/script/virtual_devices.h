@@ -1,0 +1,91 @@
+// The smaller drivers of a scripted machine.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/machine.h"
+#include "script/machine_record.h"
+
+namespace script {
+
+enum class PrinterState { there, missing, failing };
+
+/// What the machine has.
+struct MachineDescription {
+    bool soundCard = true;
+    std::optional<int> port;  ///< number of the serial port
+    bool portPulled = false;  ///< the adapter of that port was pulled
+    PrinterState printer = PrinterState::there;
+    std::optional<std::string> drive;  ///< folder that stands for drive A:
+    platform::ScreenSize screen;
+};
+
+class RecordedNotices final : public platform::Notices {
+ public:
+    explicit RecordedNotices(MachineRecord& record) : record_(record) {}
+    void notice(const std::string& text) override
+    {
+        last_ = text;
+        record_.notices.push_back(text);
+    }
+    std::string last() const override { return last_; }
+
+    /// A program begins: it has not noticed anything yet.
+    void beginRun() { last_.clear(); }
+
+ private:
+    MachineRecord& record_;
+    std::string last_;
+};
+
+class VirtualClipboard final : public platform::Clipboard {
+ public:
+    std::string text() const override { return text_; }
+    void setText(const std::string& text) override { text_ = text; }
+
+ private:
+    std::string text_;
+};
+
+class VirtualSound final : public platform::Sound {
+ public:
+    explicit VirtualSound(const MachineDescription& description) : description_(description) {}
+    int outputDevices() const override { return description_.soundCard ? 1 : 0; }
+
+ private:
+    const MachineDescription& description_;
+};
+
+class RecordedHelp final : public platform::HelpViewer {
+ public:
+    RecordedHelp(MachineRecord& record, const platform::Clock& clock) : record_(record), clock_(clock) {}
+    void open(int context) override { record_.help.push_back({clock_.monotonic(), std::to_string(context)}); }
+
+ private:
+    MachineRecord& record_;
+    const platform::Clock& clock_;
+};
+
+class VirtualScreen final : public platform::Screen {
+ public:
+    explicit VirtualScreen(const MachineDescription& description) : description_(description) {}
+    platform::ScreenSize size() const override { return description_.screen; }
+
+ private:
+    const MachineDescription& description_;
+};
+
+class VirtualInstallation final : public platform::Installation {
+ public:
+    explicit VirtualInstallation(std::string folder) : folder_(std::move(folder)) {}
+    std::string programFolder() const override { return folder_; }
+    std::string commandLine() const override { return commandLine_; }
+    void setCommandLine(const std::string& commandLine) { commandLine_ = commandLine; }
+
+ private:
+    std::string folder_;
+    std::string commandLine_;
+};
+
+}  // namespace script

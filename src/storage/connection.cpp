@@ -1,0 +1,190 @@
+#include "storage/connection.h"
+
+#include <sqlite3.h>
+
+#include <map>
+#include <new>
+#include <stdexcept>
+#include <string_view>
+#include <system_error>
+
+#include "base/runtime_error.h"
+#include "platform/files.h"
+#include "storage/like_operator.h"
+#include "storage/prepared_statement.h"
+
+namespace storage {
+
+namespace {
+
+/// How long another program may hold the file before it counts as locked.
+constexpr int busyMilliseconds = 2000;
+
+using base::RuntimeError;
+
+/// Name behind "no such table: ", empty when the message is about something else.
+std::string missingTable(std::string_view message)
+{
+    constexpr std::string_view beginning = "no such table: ";
+    return message.starts_with(beginning) ? std::string(message.substr(beginning.size())) : std::string();
+}
+
+RuntimeError errorOfStatement(const std::string& fileName, const std::string& message)
+{
+    const std::string table = missingTable(message);
+    if (!table.empty()) return {base::noDatabase, fileName + " has no table " + table};
+    return {base::invalidArgument, fileName + " cannot run the statement: " + message};
+}
+
+RuntimeError errorOfProtection(const std::string& fileName, int code)
+{
+    if (code == SQLITE_READONLY_DBMOVED)
+        return {base::existsOrNoAccess, fileName + " was removed or replaced while it was open: nothing was written"};
+    return {base::existsOrNoAccess, fileName + " is write-protected: nothing was written"};
+}
+
+RuntimeError errorOfLock(const std::string& fileName, Access access)
+{
+    const char* const what = access == Access::writing ? "nothing was written" : "it cannot be read";
+    return {base::existsOrNoAccess, fileName + " is locked by another program: " + what};
+}
+
+RuntimeError errorOfDisk(const std::string& fileName, Access access, const std::string& message)
+{
+    const char* const what = access == Access::writing ? "written" : "read";
+    return {base::existsOrNoAccess, "The disk failed while " + fileName + " was being " + what + ": " + message};
+}
+
+using Registry = std::map<std::string, std::weak_ptr<Connection>>;
+
+/// All open connections of the process, by the place of their file. Only the program thread comes here.
+Registry& registry()
+{
+    static Registry connections;
+    return connections;
+}
+
+std::string placeOf(const std::filesystem::path& file)
+{
+    std::error_code failed;
+    const std::filesystem::path place = std::filesystem::weakly_canonical(file, failed);
+    return platform::pathText(failed ? file : place);
+}
+
+}  // namespace
+
+Connection::Connection(const std::filesystem::path& file) : file_(file), fileName_(platform::pathText(file.filename()))
+{
+    sqlite3* handle = nullptr;
+    const int code = sqlite3_open_v2(placeOf(file).c_str(), &handle, SQLITE_OPEN_READWRITE, nullptr);
+    handle_.reset(handle);
+    if (code != SQLITE_OK) raise(code, Access::reading);
+    sqlite3_extended_result_codes(handle, 1);
+    sqlite3_busy_timeout(handle, busyMilliseconds);
+    takeOverLike(handle);
+    prepareFile();
+}
+
+void Connection::Close::operator()(sqlite3* handle) const
+{
+    sqlite3_close_v2(handle);
+}
+
+std::string Connection::settingAfter(const char* pragma)
+{
+    PreparedStatement statement(*this, pragma);
+    return statement.step() ? std::string(statement.text(0)) : std::string();
+}
+
+void Connection::prepareFile()
+{
+    // Sorting and statement journals stay in memory, so that a full disk of temporary files stops nothing.
+    settingAfter("PRAGMA temp_store=MEMORY");
+    settingAfter("PRAGMA synchronous=FULL");
+    if (settingAfter("PRAGMA journal_mode=TRUNCATE") != "truncate")
+        throw RuntimeError(base::existsOrNoAccess, fileName_ + " cannot be given a journal of its own");
+    // This reads the file, and takes back what a power cut left half done. SQLite takes a file without a byte for an
+    // empty database; nobody made that one as a database.
+    if (settingAfter("PRAGMA page_count") == "0") raise(SQLITE_NOTADB, Access::reading);
+}
+
+void Connection::execute(const std::string& text)
+{
+    PreparedStatement statement(*this, text, Access::writing);
+    if (statement.columnCount() != 0)
+        throw RuntimeError(base::invalidArgument, "This statement asks for rows: " + text);
+    run(statement);
+}
+
+std::int64_t Connection::run(PreparedStatement& statement)
+{
+    ++writes_;
+    while (statement.step()) {
+    }
+    return sqlite3_changes64(handle_.get());
+}
+
+bool Connection::hasTable(const std::string& name)
+{
+    PreparedStatement statement(*this, "SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ? COLLATE NOCASE");
+    statement.bind(name);
+    return statement.step();
+}
+
+bool Connection::fileHasMoved() const
+{
+    int moved = 0;
+    const int code = sqlite3_file_control(handle_.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+    // A file system on which an open file cannot be moved does not know the question.
+    return code == SQLITE_OK && moved != 0;
+}
+
+void Connection::raise(int code, Access access) const
+{
+    const std::string message = handle_ ? sqlite3_errmsg(handle_.get()) : sqlite3_errstr(code);
+    switch (code & 0xFF) {
+        case SQLITE_ERROR:
+            throw errorOfStatement(fileName_, message);
+        case SQLITE_CANTOPEN: {
+            std::error_code ignored;
+            const bool there = std::filesystem::exists(file_, ignored);
+            throw RuntimeError(base::noDatabase, fileName_ + (there ? " cannot be opened" : " is not there"));
+        }
+        case SQLITE_NOTADB:
+        case SQLITE_CORRUPT:
+            throw RuntimeError(base::noDatabase, fileName_ + " is no database, or it is damaged");
+        case SQLITE_FULL:
+            throw RuntimeError(base::diskFull, "The disk is full: nothing was written to " + fileName_);
+        case SQLITE_BUSY:
+        case SQLITE_LOCKED:
+            throw errorOfLock(fileName_, access);
+        case SQLITE_READONLY:
+            throw errorOfProtection(fileName_, code);
+        case SQLITE_NOMEM:
+            throw std::bad_alloc();
+        case SQLITE_MISUSE:
+        case SQLITE_RANGE:
+            throw std::logic_error("wrong use of " + fileName_ + ": " + message);
+        case SQLITE_CONSTRAINT:
+        case SQLITE_MISMATCH:
+        case SQLITE_TOOBIG:
+            throw RuntimeError(base::existsOrNoAccess, fileName_ + " takes no such row: " + message);
+        default:
+            throw errorOfDisk(fileName_, access, message);
+    }
+}
+
+std::shared_ptr<Connection> connectionTo(const std::filesystem::path& file)
+{
+    const std::string place = placeOf(file);
+    if (const auto found = registry().find(place); found != registry().end()) {
+        std::shared_ptr<Connection> open = found->second.lock();
+        if (open != nullptr && !open->fileHasMoved()) return open;
+    }
+    std::erase_if(registry(), [](const auto& entry) { return entry.second.expired(); });
+    auto fresh = std::make_shared<Connection>(file);
+    registry()[place] = fresh;
+    return fresh;
+}
+
+}  // namespace storage

@@ -1,0 +1,69 @@
+// The link to one database file: how it is opened, shared and closed, and what its failures are called.
+//
+// A commit is durable before it returns: the rollback journal is written and synchronised before the database, and cut
+// to nothing (and synchronised again) behind it. So the file alone holds every row, whatever happens next.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <string>
+
+struct sqlite3;
+
+namespace storage {
+
+class PreparedStatement;
+
+/// What a statement was about when it failed.
+enum class Access { reading, writing };
+
+class Connection {
+ public:
+    /// Opens a file that exists and is a database. Errors as in database.h.
+    explicit Connection(const std::filesystem::path& file);
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+    ~Connection() = default;
+
+    /// Name of the file without its folder, for the operator.
+    const std::string& fileName() const { return fileName_; }
+
+    /// Runs one statement of SQLite that gives no rows; what it changed is durable when this returns.
+    void execute(const std::string& statement);
+
+    /// Runs a prepared statement to its end and returns the number of rows that it changed.
+    std::int64_t run(PreparedStatement& statement);
+
+    /// True when the file has this table, in any case of letters.
+    bool hasTable(const std::string& name);
+
+    /// Grows with every statement that may have changed rows: rows read before it may be different now.
+    std::uint64_t writes() const { return writes_; }
+
+    /// True when the file was removed, or another one stands under its name.
+    bool fileHasMoved() const;
+
+    /// Raises the error that a code of SQLite stands for.
+    [[noreturn]] void raise(int code, Access access) const;
+
+ private:
+    friend class PreparedStatement;
+
+    struct Close {
+        void operator()(sqlite3* handle) const;
+    };
+
+    void prepareFile();
+    std::string settingAfter(const char* pragma);
+
+    std::filesystem::path file_;
+    std::string fileName_;
+    std::unique_ptr<sqlite3, Close> handle_;
+    std::uint64_t writes_ = 0;
+};
+
+/// The connection to a file: the open one if there is one, unless the file was removed or replaced in the meantime.
+std::shared_ptr<Connection> connectionTo(const std::filesystem::path& file);
+
+}  // namespace storage

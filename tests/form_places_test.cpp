@@ -1,0 +1,229 @@
+// The pages on the design screen: everything inside, nothing over anything else, no text cut, room for the rose.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "base/text.h"
+#include "screen/frm_anzeigen.h"
+#include "screen/frm_init.h"
+#include "screen/frm_qso.h"
+#include "screen/mnemonic.h"
+
+namespace {
+
+using screen::Control;
+using screen::Form;
+using screen::FormLife;
+using screen::Kind;
+using screen::Rectangle;
+
+class FormPlaces : public testing::Test {
+ protected:
+    void SetUp() override
+    {
+        screen::rebuild(FrmInit, FormLife::neverLoaded);
+        screen::rebuild(FrmQSO, FormLife::neverLoaded);
+        screen::rebuild(FrmAnzeigen, FormLife::neverLoaded);
+    }
+};
+
+using Controls = std::set<const Control*>;
+
+/// Groups of controls of which only one is in view at a time.
+using Alternatives = std::vector<Controls>;
+
+bool isDrawn(const Control& control)
+{
+    if (control.kind == Kind::menuEntry || control.kind == Kind::data || control.kind == Kind::timer) return false;
+    if (control.kind == Kind::line) return false;
+    return control.kind != Kind::textBox || !static_cast<const screen::TextBox&>(control).parking;
+}
+
+bool overlap(const Rectangle& a, const Rectangle& b)
+{
+    return a.Left < b.Left + b.Width && b.Left < a.Left + a.Width && a.Top < b.Top + b.Height &&
+           b.Top < a.Top + a.Height;
+}
+
+/// Whether the two are never in view at the same time: both in one of the groups.
+bool neverTogether(const Control* a, const Control* b, const Alternatives& groups)
+{
+    return std::any_of(groups.begin(), groups.end(),
+                       [&](const auto& group) { return group.contains(a) && group.contains(b); });
+}
+
+void expectNoOverlap(const Form& form, const Alternatives& groups, const Controls& notOnThisPage)
+{
+    const auto& controls = form.controls();
+    const auto onPage = [&](const Control* control) { return isDrawn(*control) && !notOnThisPage.contains(control); };
+    for (auto a = controls.begin(); a != controls.end(); ++a)
+        for (auto b = a + 1; b != controls.end(); ++b) {
+            if (!onPage(*a) || !onPage(*b) || (*a)->container != (*b)->container) continue;
+            if (neverTogether(*a, *b, groups)) continue;
+            EXPECT_FALSE(overlap((*a)->design, (*b)->design))
+                << form.name << ": " << (*a)->name << " and " << (*b)->name;
+        }
+}
+
+void expectInside(const Form& form, const Controls& notOnThisPage)
+{
+    for (const Control* control : form.controls()) {
+        if (!isDrawn(*control) || notOnThisPage.contains(control)) continue;
+        const bool inForm = control->container == nullptr;
+        const double width = inForm ? form.Width : control->container->design.Width;
+        const double height = inForm ? form.Height : control->container->design.Height;
+        const Rectangle& at = control->design;
+        EXPECT_GT(at.Width, 0) << control->name;
+        EXPECT_GT(at.Height, 0) << control->name;
+        EXPECT_GE(at.Left, 0) << control->name;
+        EXPECT_GE(at.Top, 0) << control->name;
+        EXPECT_LE(at.Left + at.Width, width) << control->name;
+        EXPECT_LE(at.Top + at.Height, height) << control->name;
+    }
+}
+
+/// About the width of a text in twips.
+double textWidth(const std::string& text, double points, bool bold)
+{
+    constexpr double twipsAPoint = 20;
+    const double wider = bold ? 1.1 : 1;
+    double ems = 0;
+    for (const char32_t character : base::toCharacters(text)) {
+        const bool wide = character != U' ' && base::upper(character) == character;
+        ems += character == U' ' ? 0.35 : (wide ? 0.68 : 0.55) * wider;
+    }
+    return ems * points * twipsAPoint;
+}
+
+void expectTextsFit(const Form& form, const Controls& notOnThisPage)
+{
+    constexpr double twipsAPoint = 20;
+    for (const Control* control : form.controls()) {
+        if (!isDrawn(*control) || notOnThisPage.contains(control)) continue;
+        const std::string text = screen::withoutMnemonic(screen::captionOf(*control));
+        if (text.empty() || control->kind == Kind::frame) continue;
+        const bool hasMark = control->kind == Kind::optionButton || control->kind == Kind::checkBox;
+        const double lineHeight = control->fontPoints * twipsAPoint * 1.17;
+        const double lines = std::floor(control->design.Height / lineHeight);
+        EXPECT_GE(lines, 1) << control->name;
+        EXPECT_LE(textWidth(text, control->fontPoints, control->bold),
+                  lines * control->design.Width - (hasMark ? 300 : 0))
+            << control->name;
+    }
+}
+
+void expectFree(const Form& form, const Rectangle& area, const Controls& notOnThisPage)
+{
+    for (const Control* control : form.controls()) {
+        if (!isDrawn(*control) || control->container != nullptr || notOnThisPage.contains(control)) continue;
+        EXPECT_FALSE(overlap(control->design, area)) << control->name << " stands where the rose is drawn";
+    }
+}
+
+Controls grids(const Form& form)
+{
+    Controls found;
+    for (const Control* control : form.controls())
+        if (control->kind == Kind::grid) found.insert(control);
+    return found;
+}
+
+Alternatives alternativesOfEntry()
+{
+    return {grids(FrmQSO), {&FrmQSO.LblCod, &FrmQSO.LblCod432, &FrmQSO.LblCod1296, &FrmQSO.LblCodGhz}};
+}
+
+void expectInOrder(const Form& form, const Alternatives& alternatives, const Controls& notOnThisPage)
+{
+    expectInside(form, notOnThisPage);
+    expectTextsFit(form, notOnThisPage);
+    expectNoOverlap(form, alternatives, notOnThisPage);
+}
+
+Controls onlyInMaraton()
+{
+    return {&FrmQSO.TxtMyName, &FrmQSO.TxtYourName};
+}
+
+Controls neverInMaraton()
+{
+    return {&FrmQSO.Frame3, &FrmQSO.Frame4, &FrmQSO.CmdA,     &FrmQSO.CmdB,    &FrmQSO.LblA,
+            &FrmQSO.LblB,   &FrmQSO.CmdGHz, &FrmQSO.LblBand3, &FrmQSO.LblPkt3, &FrmQSO.LblQSO3};
+}
+
+TEST_F(FormPlaces, SetUpPageIsInOrder)
+{
+    expectInOrder(FrmInit, {{&FrmInit.FrmConcurs, &FrmInit.FraConcurs}}, {});
+}
+
+TEST_F(FormPlaces, EntryFormIsInOrder)
+{
+    FrmQSO.Frame2.design.Height = 2215;  // with all four rows
+    expectInOrder(FrmQSO, alternativesOfEntry(), onlyInMaraton());
+}
+
+TEST_F(FormPlaces, EntryFormOfTheMaratonIsInOrder)
+{
+    FrmQSO.Frame2.design.Height = 1815;  // with three rows
+    FrmQSO.takeMaratonPlaces();
+    FrmQSO.LblRSTe.Caption = "RSTS CODS QTHLocS  NameS";
+    FrmQSO.LblRSTR.Caption = "   RSTR CODR QTHLocR  NameR";
+    expectInOrder(FrmQSO, alternativesOfEntry(), neverInMaraton());
+    EXPECT_EQ(FrmQSO.Frame2.Height, 1815);
+}
+
+TEST_F(FormPlaces, ReviewFormIsInOrder)
+{
+    expectInOrder(FrmAnzeigen, {grids(FrmAnzeigen)}, {});
+}
+
+TEST_F(FormPlaces, TwoRowsOfTheScoreFitTheLowFrame)
+{
+    const auto bottom = [](const Control& control) { return control.design.Top + control.design.Height; };
+    EXPECT_LE(bottom(FrmQSO.LblBand1), 1455);
+    EXPECT_LE(bottom(FrmQSO.LblBand2), 1815);
+    EXPECT_LE(bottom(FrmQSO.LblBand3), 2215);
+}
+
+TEST_F(FormPlaces, SomePlacesAreFixed)
+{
+    EXPECT_EQ(FrmQSO.LblMode.Left, 7200);
+    EXPECT_EQ(FrmQSO.LblAnunt.Left, 5280);
+    EXPECT_EQ(FrmQSO.LblOffLine.Left, 5400);
+    EXPECT_EQ(FrmQSO.LblMixt.Left, 9700);
+    EXPECT_EQ(FrmQSO.LblFm.Left, 9100);
+    for (const Control* field : {&FrmQSO.TxtRSTR1, &FrmQSO.TxtRSTR2, &FrmQSO.TxtRSTr3})
+        EXPECT_EQ(field->Top, 1500) << field->name;
+}
+
+TEST_F(FormPlaces, TheRoseHasRoom)
+{
+    expectFree(FrmQSO, {3450, 2600, 1900, 2000}, onlyInMaraton());
+}
+
+TEST_F(FormPlaces, TheRoseHasRoomInTheMaraton)
+{
+    FrmQSO.takeMaratonPlaces();
+    expectFree(FrmQSO, {3250, 50, 1500, 1500}, neverInMaraton());
+    expectFree(FrmQSO, {2720, 2420, 1160, 2200}, neverInMaraton());  // larger screens
+}
+
+TEST_F(FormPlaces, TheHeadingHasRoomBesideTheRoseInTheMaraton)
+{
+    FrmQSO.takeMaratonPlaces();
+    FrmQSO.LblBeam1.place(4800, 400, FrmQSO.LblBeam1.Width, FrmQSO.LblBeam1.Height);
+    expectNoOverlap(FrmQSO, alternativesOfEntry(), neverInMaraton());
+}
+
+TEST_F(FormPlaces, TheReceivedExchangeMayStepDown)
+{
+    for (Control* field : {&FrmQSO.TxtRSTR1, &FrmQSO.TxtRSTR2, &FrmQSO.TxtRSTr3})
+        field->place(field->design.Left, 2400, field->design.Width, field->design.Height);
+    expectNoOverlap(FrmQSO, alternativesOfEntry(), onlyInMaraton());
+}
+
+}  // namespace
