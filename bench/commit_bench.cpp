@@ -8,7 +8,8 @@
 #include <chrono>
 
 #include "screen/frm_qso.h"
-#include "station.h"
+#include "bench_folder.h"
+#include "support/station.h"
 
 namespace {
 
@@ -22,8 +23,8 @@ double secondsSince(Clock::time_point start)
 void bareInsert(benchmark::State& state)
 {
     const bench::Folder folder;
-    bench::fillLog(folder.path(), "Uus144a", static_cast<int>(state.range(0)));
-    bench::PlainLog log(folder.path() / "LogKelvo.mdb");
+    test::fillLog(folder.path(), "Uus144a", static_cast<int>(state.range(0)));
+    test::PlainLog log(folder.path() / "LogKelvo.mdb");
     int number = 0;
     for (auto _ : state) {
         const std::string call = "DL" + std::to_string(number++) + "X";
@@ -38,16 +39,16 @@ void bareInsert(benchmark::State& state)
 void commit(benchmark::State& state, bool known)
 {
     const bench::Folder folder;
-    bench::fillLog(folder.path(), "Uus144a", static_cast<int>(state.range(0)));
+    test::fillLog(folder.path(), "Uus144a", static_cast<int>(state.range(0)));
     constexpr int mostQsos = 20000;
     if (known) {
-        bench::PlainLog memory(folder.path() / "DbsKelvo.mdb");
+        test::PlainLog memory(folder.path() / "DbsKelvo.mdb");
         memory.execute("BEGIN");
         for (int i = 0; i < mostQsos; ++i)
             memory.execute("INSERT INTO QRA (Call, QRA_LOC) VALUES ('DL" + std::to_string(i) + "X','KN16AA')");
         memory.execute("COMMIT");
     }
-    bench::Station station(folder.path(), nullptr);
+    test::Station station(folder.path(), nullptr);
     int number = 0;
     for (auto _ : state) {
         station.fillScreen("DL" + std::to_string(number++) + "X", known);

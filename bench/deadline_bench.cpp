@@ -12,7 +12,7 @@
 
 #include "desktop/desktop_program.h"
 #include "screen/frm_init.h"
-#include "station.h"
+#include "bench_folder.h"
 
 namespace {
 

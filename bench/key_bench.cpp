@@ -3,7 +3,8 @@
 
 #include "base/text.h"
 #include "screen/frm_qso.h"
-#include "station.h"
+#include "bench_folder.h"
+#include "support/station.h"
 
 namespace {
 
@@ -17,7 +18,7 @@ void copyOfPicture(benchmark::State& state)
 {
     const bench::Folder folder;
     LastPicture sink;
-    bench::Station station(folder.path(), &sink);
+    test::Station station(folder.path(), &sink);
     for (auto _ : state) {
         auto copy = std::make_shared<app::Picture>(*sink.last);
         benchmark::DoNotOptimize(copy);
@@ -29,7 +30,7 @@ void keyToPicture(benchmark::State& state)
 {
     const bench::Folder folder;
     LastPicture sink;
-    bench::Station station(folder.path(), &sink);
+    test::Station station(folder.path(), &sink);
     station.program().handle(app::FocusAsked{&FrmQSO.TxtRSTR1});
     bool erase = false;
     for (auto _ : state) {
@@ -43,9 +44,9 @@ void keyToPicture(benchmark::State& state)
 void keyInCallToPicture(benchmark::State& state)
 {
     const bench::Folder folder;
-    bench::fillLog(folder.path(), "Uus144a", static_cast<int>(state.range(0)));
+    test::fillLog(folder.path(), "Uus144a", static_cast<int>(state.range(0)));
     LastPicture sink;
-    bench::Station station(folder.path(), &sink);
+    test::Station station(folder.path(), &sink);
     station.type("Y");
     bool erase = false;
     for (auto _ : state) {

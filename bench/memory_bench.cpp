@@ -11,7 +11,8 @@
 #include "desktop/desktop_program.h"
 #include "screen/frm_init.h"
 #include "screen/frm_qso.h"
-#include "station.h"
+#include "bench_folder.h"
+#include "support/station.h"
 
 namespace {
 
@@ -39,7 +40,7 @@ void showEmptyWindow()
 void showLog()
 {
     const bench::Folder folder;
-    bench::fillLog(folder.path(), "Uus144a", 30000);
+    test::fillLog(folder.path(), "Uus144a", 30000);
     desktop::CommandLine commandLine;
     commandLine.programFolder = folder.path().string();
     desktop::DesktopProgram program(commandLine);

@@ -51,6 +51,11 @@ Outcome runNewdb(const std::string& arguments)
     return outcome;
 }
 
+std::string quoted(const std::string& word)
+{
+    return "'" + word + "'";
+}
+
 TEST(MissingDatabases, areMadeWithTheirTables)
 {
     const test::TemporaryFolder folder;
@@ -120,10 +125,10 @@ TEST(MissingDatabases, leaveNothingBehindWhenTheyCannotBeMade)
 TEST(NewdbProgram, saysWhatItMade)
 {
     const test::TemporaryFolder folder;
-    const Outcome first = runNewdb("'" + folder.path().string() + "'");
+    const Outcome first = runNewdb(quoted(folder.path().string()));
     EXPECT_EQ(first.text, "made LogKelvo.mdb\nmade DbsKelvo.mdb\nmade Kelvo.mdb\n");
     EXPECT_EQ(first.status, 0);
-    const Outcome second = runNewdb("'" + folder.path().string() + "'");
+    const Outcome second = runNewdb(quoted(folder.path().string()));
     EXPECT_EQ(second.text, "all databases are there, nothing was made\n");
     EXPECT_EQ(second.status, 0);
 }

@@ -137,7 +137,7 @@ class PowerCut : public testing::Test {
     template <typename Look>
     void forEachSurvival(Look&& lookAt)
     {
-        constexpr std::uint32_t ways = 12;
+        constexpr std::uint32_t ways = 8;
         const PowerCutVfs::Files atCut = disk_->files();
         const auto tryOut = [&](Survival survival, std::uint32_t seed) {
             disk_->setFiles(atCut);
@@ -196,12 +196,12 @@ TEST_F(PowerCut, firstRowOfAnEmptyTable)
 
 TEST_F(PowerCut, rowBehindManyRows)
 {
-    EXPECT_EQ(broken({600, 0, insertOf(9)}), 0);
+    EXPECT_EQ(broken({300, 0, insertOf(9)}), 0);
 }
 
 TEST_F(PowerCut, rowWithTheJournalOfEarlierRows)
 {
-    EXPECT_EQ(broken({600, 3, insertOf(9)}), 0);
+    EXPECT_EQ(broken({300, 3, insertOf(9)}), 0);
 }
 
 TEST_F(PowerCut, pointsTakenFromManyRows)
@@ -253,7 +253,7 @@ TEST_F(PowerCut, powerGoesAgainDuringTheRecovery)
 
 TEST_F(PowerCut, everyQsoOfAnEvening)
 {
-    constexpr long evening = 12;
+    constexpr long evening = 8;
     const PowerCutVfs::Files start = disk_->files();
     bool wentThrough = false;
     for (long operations = 0; !wentThrough; ++operations) {

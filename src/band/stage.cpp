@@ -203,12 +203,12 @@ void stageBOn1296()
     if (Modul1.ConcId == 0) fillRow(1, "1296A", 1296, "A");
 }
 
-/// "Mixt" is not among the modes that take the prompt away here; in the international contest it stays in sight on 144
-/// whatever the mode.
+/// "Mixt" is not among the modes that take the prompt away here. It stays in sight while a microwave band is still to be
+/// picked, and in the international contest on 144 whatever the mode.
 void openEntryIfModeIsChosen()
 {
     if (Modul1.ModeCur != "SSB" && Modul1.ModeCur != "CW" && Modul1.ModeCur != "Fm") return;
-    if (Modul1.ConcId == 100 && Modul1.BandCur == 144) return;
+    if (Modul1.BandCur == entry::bandGHz || (Modul1.ConcId == 100 && Modul1.BandCur == 144)) return;
     FrmQSO.LblAnunt.Visible = false;
     entry::YesEnabl();
     entry::YoIn();

@@ -23,6 +23,7 @@ void DesktopProgram::start()
     // The size first: where no window manager is, nobody else makes the window as large as the screen.
     if (const QScreen* screen = window_.screen()) window_.setGeometry(screen->availableGeometry());
     window_.showMaximized();
+    window_.activateWindow();
     thread_.start(machine_.machine());
 }
 

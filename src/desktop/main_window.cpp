@@ -1,12 +1,29 @@
 #include "desktop/main_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QFontInfo>
+#include <QToolTip>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/characters.h"
 #include "desktop/menu.h"
 
 namespace desktop {
+
+namespace {
+
+/// Pixels of the texts around the form: they grow with the window as those of the form do.
+int fontPixelsFor(int windowHeight)
+{
+    constexpr int designPixels = 11;
+    constexpr int designHeight = 600;
+    const int systemPixels = QFontInfo(QApplication::font()).pixelSize();
+    return std::max(systemPixels, windowHeight * designPixels / designHeight);
+}
+
+}  // namespace
 
 MainWindow::MainWindow(const Poster& post) : post_(post), form_(new FormView(post)), noticeLine_(new NoticeLine)
 {
@@ -19,6 +36,7 @@ MainWindow::MainWindow(const Poster& post) : post_(post), form_(new FormView(pos
     setCentralWidget(page);
     menuBar()->setNativeMenuBar(false);
     menuBar()->installEventFilter(this);
+    connect(menuBar(), &QMenuBar::triggered, this, &MainWindow::leaveIdleMenuBar, Qt::QueuedConnection);
     form_->installEventFilter(this);
     form_->setFocus();
     setWindowTitle(QStringLiteral("Kelvo"));
@@ -57,9 +75,22 @@ void MainWindow::closeEvent(QCloseEvent* event)
     if (!programEnded_) post_(app::CloseAsked{});
 }
 
+void MainWindow::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    QFont texts = QApplication::font();
+    texts.setPixelSize(fontPixelsFor(height()));
+    setFont(texts);
+    QToolTip::setFont(texts);
+}
+
 bool MainWindow::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == form_ && event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_F10) {
+    if (event->type() != QEvent::KeyPress) return QMainWindow::eventFilter(watched, event);
+    if (watched == menuBar()) {
+        // Behind the key: by then it may have left the bar, or picked an entry.
+        QMetaObject::invokeMethod(this, &MainWindow::leaveIdleMenuBar, Qt::QueuedConnection);
+    } else if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_F10) {
         enterMenuBar();
         return true;
     }
@@ -72,6 +103,12 @@ void MainWindow::enterMenuBar()
     if (entries.isEmpty()) return;
     menuBar()->setFocus(Qt::MenuBarFocusReason);
     menuBar()->setActiveAction(entries.front());
+}
+
+/// A menu bar without a marked entry has no use for keys: they are the form's again.
+void MainWindow::leaveIdleMenuBar()
+{
+    if (menuBar()->activeAction() == nullptr) form_->setFocus();
 }
 
 }  // namespace desktop

@@ -29,11 +29,13 @@ class MainWindow final : public QMainWindow {
 
  protected:
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
     void setMenu(const std::vector<app::MenuPicture>& menu);
     void enterMenuBar();
+    void leaveIdleMenuBar();
 
     Poster post_;
     FormView* form_;

@@ -64,6 +64,7 @@ QMessageBox* makeMessageBox(const platform::MessageBoxRequest& request, QWidget*
     auto* box = new QMessageBox(iconOf(request.style), title, toolkitText(request.text), buttons.first | buttons.second,
                                 parent);
     box->setTextFormat(Qt::PlainText);
+    if (parent != nullptr) box->setFont(parent->font());
     box->setDefaultButton((request.style & secondIsDefault) != 0 ? buttons.second : buttons.first);
     box->setEscapeButton(buttons.second);
     markLetters(*box);

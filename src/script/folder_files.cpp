@@ -55,7 +55,7 @@ std::string takeLine(std::string& bytes)
 {
     const std::size_t end = bytes.find(lineEnd);
     const std::size_t length = end == std::string::npos ? bytes.size() : end + lineEnd.size();
-    const std::string line = bytes.substr(0, length);
+    std::string line = bytes.substr(0, length);
     bytes.erase(0, length);
     return line;
 }

@@ -68,7 +68,7 @@ Movements striking(const Statement& statement, VirtualMachine& machine)
 Movements repeating(const Statement& statement, VirtualMachine& machine)
 {
     const Key key = keyAt(statement, 0);
-    const std::string name = statement.text(0);
+    const std::string& name = statement.text(0);
     const auto entry = [key, name, &machine]() -> QueueEntry {
         if (!machine.keyboard.isDown(key)) throw StepFailed{name + " to be down", "it is up"};
         return app::KeyWentDown{key, true};
@@ -108,7 +108,7 @@ QueueEntry rowTouch(const std::string& name, long row, bool twice)
 /// A double click on a list picks the item first; on a grid it is one gesture.
 Movements touchingRow(const Statement& statement, bool twice)
 {
-    const std::string name = statement.text(0);
+    const std::string& name = statement.text(0);
     const long row = rowAt(statement, 1);
     if (!twice) return {{[name, row] { return rowTouch(name, row, false); }}};
 

@@ -1,10 +1,7 @@
-#include "station.h"
+#include "support/station.h"
 
 #include <sqlite3.h>
 
-#include <chrono>
-#include <cstdio>
-#include <cstdlib>
 #include <stdexcept>
 
 #include "base/text.h"
@@ -12,9 +9,8 @@
 #include "screen/frm_init.h"
 #include "screen/frm_qso.h"
 #include "script/key_names.h"
-#include "storage/schema.h"
 
-namespace bench {
+namespace test {
 
 namespace fs = std::filesystem;
 
@@ -29,20 +25,6 @@ std::string callNumber(int number)
 }
 
 }  // namespace
-
-Folder::Folder()
-{
-    const auto stamp = std::chrono::steady_clock::now().time_since_epoch().count();
-    path_ = fs::absolute("kelvo-bench-" + std::to_string(stamp));
-    fs::create_directories(path_);
-    storage::makeMissingDatabases(path_);
-}
-
-Folder::~Folder()
-{
-    std::error_code ignored;
-    fs::remove_all(path_, ignored);
-}
 
 PlainLog::PlainLog(const fs::path& file)
 {
@@ -128,4 +110,4 @@ void Station::fillScreen(const std::string& call, bool known)
     if (!FrmQSO.CmdEnterCall.Enabled) throw std::logic_error("the QSO is not ready to be logged: " + call);
 }
 
-}  // namespace bench
+}  // namespace test

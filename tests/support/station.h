@@ -1,31 +1,18 @@
-// A station for the benchmarks: the program on a folder of the real disk, with logs of any size, driven entry by entry.
+// A station for tests and benchmarks: the program on a folder of the real disk, with logs of any size, driven entry by
+// entry.
 #pragma once
 
 #include <filesystem>
-#include <functional>
-#include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "app/program.h"
 #include "script/virtual_machine.h"
 
 struct sqlite3;
 
-namespace bench {
-
-/// A folder of its own on the disk of the working directory, gone behind it.
-class Folder {
-   public:
-    Folder();
-    Folder(const Folder&) = delete;
-    Folder& operator=(const Folder&) = delete;
-    ~Folder();
-    const std::filesystem::path& path() const { return path_; }
-
-   private:
-    std::filesystem::path path_;
-};
+namespace test {
 
 /// Fills a log table with `rows` QSOs of different calls, and the locator memory with the same calls.
 void fillLog(const std::filesystem::path& folder, std::string_view table, int rows);
@@ -59,6 +46,9 @@ class Station : private app::EntrySource {
     void fillScreen(const std::string& call, bool known);
 
     app::Program& program() { return program_; }
+    /// Notices since the start, oldest first.
+    const std::vector<std::string>& notices() const { return machine_.record.notices; }
+    script::VirtualMachine& machine() { return machine_; }
 
    private:
     std::optional<app::QueueEntry> poll() override { return std::nullopt; }
@@ -68,4 +58,4 @@ class Station : private app::EntrySource {
     app::Program program_;
 };
 
-}  // namespace bench
+}  // namespace test

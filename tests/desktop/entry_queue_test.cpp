@@ -1,0 +1,83 @@
+#include "desktop/entry_queue.h"
+
+#include <gtest/gtest.h>
+
+#include <thread>
+
+#include "base/runtime_error.h"
+
+namespace {
+
+using desktop::EntryQueue;
+
+char32_t characterOf(const std::optional<app::QueueEntry>& entry)
+{
+    return std::get<app::KeyWentDown>(entry.value()).key.character;
+}
+
+app::KeyWentDown typed(char32_t character)
+{
+    return {platform::Key{0, character}};
+}
+
+TEST(EntryQueueTest, EntriesComeInTheirOrder)
+{
+    EntryQueue queue;
+    queue.post(typed(U'a'));
+    queue.post(typed(U'b'));
+    EXPECT_EQ(characterOf(queue.poll()), U'a');
+    EXPECT_EQ(characterOf(queue.waitUntil(std::nullopt)), U'b');
+    EXPECT_FALSE(queue.poll());
+}
+
+TEST(EntryQueueTest, WaitingEndsAtTheDeadline)
+{
+    EntryQueue queue;
+    EXPECT_FALSE(queue.waitUntil(platform::MonotonicTime(1)));
+}
+
+TEST(EntryQueueTest, AnAnswerOvertakesWhatArrivedMeanwhile)
+{
+    EntryQueue queue;
+    queue.post(typed(U'a'));
+    queue.post(app::BoxAnswered{platform::buttonNo});
+    queue.post(typed(U'b'));
+    EXPECT_EQ(queue.waitForAnswer(), platform::buttonNo);
+    EXPECT_EQ(characterOf(queue.poll()), U'a');
+    EXPECT_EQ(characterOf(queue.poll()), U'b');
+}
+
+TEST(EntryQueueTest, AnAnswerWakesTheThreadThatWaitsForIt)
+{
+    EntryQueue queue;
+    platform::Button answer = platform::buttonOk;
+    std::thread program([&] { answer = queue.waitForAnswer(); });
+    queue.post(typed(U'a'));
+    while (!queue.idle())
+        std::this_thread::yield();
+    queue.post(app::BoxAnswered{platform::buttonYes});
+    program.join();
+    EXPECT_EQ(answer, platform::buttonYes);
+    EXPECT_FALSE(queue.idle()) << "nobody waits any more";
+}
+
+TEST(EntryQueueTest, StoppingEndsTheProgramWhereverItWaits)
+{
+    EntryQueue queue;
+    bool ended = false;
+    std::thread program([&] {
+        try {
+            queue.waitForAnswer();
+        } catch (const base::ProgramEnd&) {
+            ended = true;
+        }
+    });
+    queue.stop();
+    program.join();
+    EXPECT_TRUE(ended);
+    EXPECT_THROW(queue.poll(), base::ProgramEnd);
+    queue.post(typed(U'a'));
+    EXPECT_FALSE(queue.waitUntil(std::nullopt));
+}
+
+}  // namespace

@@ -1,0 +1,233 @@
+#include "desktop/key_translator.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+
+namespace {
+
+using desktop::KeyTranslator;
+
+/// One event of the toolkit. Without a text it is the letter itself.
+struct Stroke {
+    int key = 0;
+    QString text = {};
+    Qt::KeyboardModifiers modifiers = Qt::NoModifier;
+    quint32 scanCode = 0;
+    quint64 instant = 0;
+    bool repeat = false;
+
+    QKeyEvent event(QEvent::Type type) const
+    {
+        QKeyEvent made(type, key, modifiers, scanCode, 0, 0, text, repeat);
+        made.setTimestamp(instant);
+        return made;
+    }
+    QKeyEvent down() const { return event(QEvent::KeyPress); }
+    QKeyEvent up() const { return event(QEvent::KeyRelease); }
+};
+
+platform::Key keyOf(const Stroke& stroke)
+{
+    return desktop::keyOf(stroke.down());
+}
+
+/// Entries as a short text: "v" down, "r" repeat, "^" up, then the character or the code.
+std::string told(const KeyTranslator::Entries& entries)
+{
+    std::string text;
+    for (const app::QueueEntry& entry : entries) {
+        const auto name = [](const platform::Key& key) {
+            return key.character > U' ' ? std::string(1, static_cast<char>(key.character)) : std::to_string(key.code);
+        };
+        if (!text.empty()) text += ' ';
+        if (const auto* down = std::get_if<app::KeyWentDown>(&entry)) text += (down->repeat ? "r" : "v") + name(down->key);
+        if (const auto* up = std::get_if<app::KeyWentUp>(&entry)) text += "^" + name(up->key);
+    }
+    return text;
+}
+
+TEST(KeyTranslatorTest, LettersHaveTheCodeOfTheCapital)
+{
+    const platform::Key key = keyOf({Qt::Key_A, "a"});
+    EXPECT_EQ(key.code, 'A');
+    EXPECT_EQ(key.character, U'a');
+    EXPECT_FALSE(key.shift);
+    EXPECT_EQ(keyOf({Qt::Key_A, "A", Qt::ShiftModifier}).character, U'A');
+    EXPECT_TRUE(keyOf({Qt::Key_A, "A", Qt::ShiftModifier}).shift);
+}
+
+TEST(KeyTranslatorTest, KeypadDigitsTypeDigits)
+{
+    const platform::Key key = keyOf({Qt::Key_7, "7", Qt::KeypadModifier});
+    EXPECT_EQ(key.code, '7');
+    EXPECT_EQ(key.character, U'7');
+    EXPECT_EQ(keyOf({Qt::Key_Enter, "\r", Qt::KeypadModifier}).code, platform::keyEnter);
+}
+
+TEST(KeyTranslatorTest, KeysOfTheFlowHaveTheirCodes)
+{
+    EXPECT_EQ(keyOf({Qt::Key_Tab, "\t"}).code, 9);
+    EXPECT_EQ(keyOf({Qt::Key_Backtab, "", Qt::ShiftModifier}).code, 9);
+    EXPECT_EQ(keyOf({Qt::Key_Return, "\r"}).code, 13);
+    EXPECT_EQ(keyOf({Qt::Key_Escape, "\x1b"}).code, 27);
+    EXPECT_EQ(keyOf({Qt::Key_Space, " "}).code, 32);
+    EXPECT_EQ(keyOf({Qt::Key_PageUp}).code, 33);
+    EXPECT_EQ(keyOf({Qt::Key_End}).code, 35);
+    EXPECT_EQ(keyOf({Qt::Key_Insert}).code, 45);
+    EXPECT_EQ(keyOf({Qt::Key_F1}).code, 112);
+    EXPECT_EQ(keyOf({Qt::Key_F12}).code, 123);
+}
+
+TEST(KeyTranslatorTest, ControlCharactersAreNotTyped)
+{
+    EXPECT_EQ(keyOf({Qt::Key_Tab, "\t"}).character, U'\0');
+    EXPECT_EQ(keyOf({Qt::Key_Delete, "\x7f"}).character, U'\0');
+    const platform::Key copy = keyOf({Qt::Key_C, "\x03", Qt::ControlModifier});
+    EXPECT_EQ(copy.code, 'C');
+    EXPECT_EQ(copy.character, U'\0');
+    EXPECT_TRUE(copy.ctrl);
+}
+
+TEST(KeyTranslatorTest, SignsHaveACharacterAndNoCode)
+{
+    EXPECT_EQ(keyOf({Qt::Key_Slash, "/"}).code, 0);
+    EXPECT_EQ(keyOf({Qt::Key_Slash, "/"}).character, U'/');
+    EXPECT_EQ(keyOf({0x0218, QString(QChar(0x0218))}).character, U'\u0218');
+}
+
+TEST(KeyTranslatorTest, AltAndALetterTellTheLetterEvenWithoutText)
+{
+    const platform::Key key = keyOf({Qt::Key_O, "", Qt::AltModifier});
+    EXPECT_TRUE(key.alt);
+    EXPECT_EQ(key.character, U'O');
+}
+
+TEST(KeyTranslatorTest, AThirdShiftTypesItsCharacter)
+{
+    const platform::Key key = keyOf({Qt::Key_At, "@", Qt::ControlModifier | Qt::AltModifier});
+    EXPECT_EQ(key.character, U'@');
+    EXPECT_FALSE(key.ctrl);
+    EXPECT_FALSE(key.alt);
+}
+
+TEST(KeyTranslatorTest, KeysOfTheSystemAreNobodys)
+{
+    KeyTranslator translator;
+    EXPECT_EQ(told(translator.keyDown(Stroke{Qt::Key_F4, "", Qt::AltModifier}.down())), "");
+    EXPECT_EQ(told(translator.keyDown(Stroke{Qt::Key_L, "l", Qt::MetaModifier}.down())), "");
+    EXPECT_EQ(told(translator.keyDown(Stroke{Qt::Key_Shift, "", Qt::ShiftModifier}.down())), "");
+    EXPECT_EQ(told(translator.keyUp(Stroke{Qt::Key_Shift}.up())), "");
+}
+
+TEST(KeyTranslatorTest, AReleaseComesWhenTheEventLoopHasTurned)
+{
+    KeyTranslator translator;
+    const Stroke a{Qt::Key_A, "a", Qt::NoModifier, 38, 100};
+    EXPECT_EQ(told(translator.keyDown(a.down())), "va");
+    EXPECT_EQ(told(translator.keyUp(a.up())), "");
+    EXPECT_TRUE(translator.holdsRelease());
+    EXPECT_EQ(told(translator.turned()), "^a");
+    EXPECT_FALSE(translator.holdsRelease());
+    EXPECT_EQ(told(translator.turned()), "");
+}
+
+TEST(KeyTranslatorTest, ReleaseAndPressAtOneInstantAreARepeat)
+{
+    KeyTranslator translator;
+    Stroke a{Qt::Key_A, "a", Qt::NoModifier, 38, 100};
+    translator.keyDown(a.down());
+    a.instant = 600;
+    translator.keyUp(a.up());
+    EXPECT_EQ(told(translator.keyDown(a.down())), "ra");
+    a.instant = 630;
+    translator.keyUp(a.up());
+    EXPECT_EQ(told(translator.keyDown(a.down())), "ra");
+    translator.keyUp(a.up());
+    EXPECT_EQ(told(translator.turned()), "^a");
+}
+
+TEST(KeyTranslatorTest, TheSameKeyTwiceIsNoRepeat)
+{
+    KeyTranslator translator;
+    Stroke four{Qt::Key_4, "4", Qt::NoModifier, 13, 100};
+    translator.keyDown(four.down());
+    four.instant = 150;
+    translator.keyUp(four.up());
+    four.instant = 151;
+    EXPECT_EQ(told(translator.keyDown(four.down())), "^4 v4");
+}
+
+TEST(KeyTranslatorTest, WithoutAnInstantNothingIsARepeat)
+{
+    KeyTranslator translator;
+    const Stroke four{Qt::Key_4, "4"};
+    translator.keyDown(four.down());
+    translator.keyUp(four.up());
+    EXPECT_EQ(told(translator.keyDown(four.down())), "^4 v4");
+}
+
+TEST(KeyTranslatorTest, TheNextKeyDoesNotOvertakeAHeldRelease)
+{
+    KeyTranslator translator;
+    const Stroke one{Qt::Key_1, "1", Qt::NoModifier, 10, 100};
+    const Stroke two{Qt::Key_2, "2", Qt::NoModifier, 11, 100};
+    translator.keyDown(one.down());
+    translator.keyUp(one.up());
+    EXPECT_EQ(told(translator.keyDown(two.down())), "^1 v2");
+}
+
+TEST(KeyTranslatorTest, TheKeyboardsOwnRepeatsAreMarked)
+{
+    KeyTranslator translator;
+    Stroke enter{Qt::Key_Return, "\r", Qt::NoModifier, 36, 100};
+    EXPECT_EQ(told(translator.keyDown(enter.down())), "v13");
+    enter.repeat = true;
+    EXPECT_EQ(told(translator.keyUp(enter.up())), "");
+    EXPECT_EQ(told(translator.keyDown(enter.down())), "r13");
+    enter.repeat = false;
+    translator.keyUp(enter.up());
+    EXPECT_EQ(told(translator.turned()), "^13");
+}
+
+TEST(KeyTranslatorTest, AKeyThatWentDownElsewhereNeitherRepeatsNorComesUp)
+{
+    KeyTranslator translator;
+    Stroke enter{Qt::Key_Return, "\r", Qt::NoModifier, 36, 100, true};
+    EXPECT_EQ(told(translator.keyDown(enter.down())), "");
+    enter.repeat = false;
+    EXPECT_EQ(told(translator.keyUp(enter.up())), "");
+    EXPECT_EQ(told(translator.turned()), "");
+}
+
+TEST(KeyTranslatorTest, AKeyIsTheSameWhenShiftCameUpBeforeIt)
+{
+    KeyTranslator translator;
+    const Stroke down{Qt::Key_Question, "?", Qt::ShiftModifier, 61, 100};
+    const Stroke up{Qt::Key_Slash, "/", Qt::NoModifier, 61, 200};
+    EXPECT_EQ(told(translator.keyDown(down.down())), "v?");
+    translator.keyUp(up.up());
+    EXPECT_EQ(told(translator.turned()), "^?");
+}
+
+TEST(KeyTranslatorTest, AnotherApplicationGetsTheKeyboardAndAllKeysComeUp)
+{
+    KeyTranslator translator;
+    const Stroke a{Qt::Key_A, "a", Qt::NoModifier, 38, 100};
+    const Stroke b{Qt::Key_B, "b", Qt::NoModifier, 56, 110};
+    translator.keyDown(a.down());
+    translator.keyDown(b.down());
+    EXPECT_EQ(told(translator.allUp()), "^a ^b");
+    EXPECT_EQ(told(translator.keyUp(a.up())), "");
+    EXPECT_EQ(told(translator.turned()), "");
+}
+
+TEST(KeyTranslatorTest, APressWhoseReleaseWasNeverSeenIsAPressAgain)
+{
+    KeyTranslator translator;
+    const Stroke enter{Qt::Key_Return, "\r", Qt::NoModifier, 36, 100};
+    translator.keyDown(enter.down());
+    EXPECT_EQ(told(translator.keyDown(enter.down())), "v13");
+}
+
+}  // namespace
