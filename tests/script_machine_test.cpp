@@ -1,12 +1,16 @@
 // The machine under a scripted program: clock, boxes, keys, files, and how values are written.
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <limits>
+#include <regex>
 
+#include "base/text.h"
 #include "platform/files.h"
 #include "script/folder_files.h"
 #include "script/key_names.h"
 #include "script/number_words.h"
+#include "script/state_variables.h"
 #include "script/step_failed.h"
 #include "script/value.h"
 #include "script/virtual_machine.h"
@@ -274,6 +278,8 @@ TEST(ScriptKeys, TakeModifiers)
     const Key letter = keyNamed("alt+Q").value();
     EXPECT_TRUE(letter.alt);
     EXPECT_EQ(letter.character, U'Q');
+    EXPECT_FALSE(letter.shift);
+    EXPECT_FALSE(keyNamed("Ctrl+V").value().shift);
     const Key tab = keyNamed("Shift+Tab").value();
     EXPECT_TRUE(tab.shift);
     EXPECT_EQ(tab.character, 0U);
@@ -341,6 +347,37 @@ TEST(ScriptValues, MakeRowsWithEscapedSigns)
     EXPECT_EQ(script::rowText(std::vector<std::optional<std::string>>{"1", "a|b", "c\\d", std::nullopt, ""}),
               R"(1|a\|b|c\\d|\N|)");
     EXPECT_EQ(script::rowText(std::vector<std::string>{}), "");
+}
+
+/// Names of the variables that a header declares, by the pattern of their types.
+std::vector<std::string> declaredVariables(const std::string& header, const std::string& types)
+{
+    std::ifstream file(std::string(KELVO_SOURCE_FOLDER) + "/src/" + header);
+    EXPECT_TRUE(file.is_open()) << header;
+    const std::regex declaration("^    (" + types + ") (\\w+)( = [^;]*)?;.*");
+    std::vector<std::string> names;
+    for (std::string line; std::getline(file, line);) {
+        std::smatch match;
+        if (std::regex_match(line, match, declaration)) names.push_back(match[2]);
+    }
+    return names;
+}
+
+TEST(ScriptState, KnowsEveryVariableOfTheRunStateAndOfTheEntryForm)
+{
+    const std::string types = "std::string|std::u?int\\d+_t|float|double";
+    const std::vector<std::string> shared = declaredVariables("runstate/modul1.h", types);
+    EXPECT_GT(shared.size(), 100U);
+    for (const std::string& name : shared) {
+        ASSERT_TRUE(script::stateVariable(base::upper(name)).has_value()) << name;
+        EXPECT_EQ(script::stateVariable(name)->name, name);
+    }
+    const std::vector<std::string> members = declaredVariables("screen/frm_qso.h", types);
+    EXPECT_GT(members.size(), 20U);
+    for (const std::string& name : members)
+        EXPECT_TRUE(script::stateVariable("FrmQSO." + name).has_value()) << name;
+    EXPECT_FALSE(script::stateVariable("DupLock").has_value());
+    EXPECT_FALSE(script::stateVariable("FrmInit.BandCur").has_value());
 }
 
 class ScriptFiles : public testing::Test {

@@ -116,6 +116,14 @@ void presetSerial(std::uint16_t contest)
     if (contest != trofeulCarpati && contest != maraton) FrmInit.TxtRpNr.Text = "000";
     FrmInit.TxtRpNr.Visible = false;
     FrmInit.LblRpNr.Visible = false;
+    FrmInit.LblInscr.Visible = false;
+}
+
+/// The frame that was clicked goes: the operator goes on with the first field to fill in.
+void leaveOperatingMode()
+{
+    FrmInit.FraConcurs.Visible = false;
+    (Modul1.ConcId == maraton ? FrmInit.TxtMyName : FrmInit.TxtMyCall).SetFocus();
 }
 
 void choose(std::uint16_t id)
@@ -212,7 +220,7 @@ void OpbOltenia6m_Click()
 
 void OpbConcurs_Click()
 {
-    FrmInit.FraConcurs.Visible = false;
+    leaveOperatingMode();
     Modul1.QraMemOn = 100;
     platform::msgBox("Inainte de incepere verificati daca tabelele LOG necesare concursului dorit sint goale !",
                      iconExclamation);
@@ -220,7 +228,7 @@ void OpbConcurs_Click()
 
 void OpbTest_Click()
 {
-    FrmInit.FraConcurs.Visible = false;
+    leaveOperatingMode();
     Modul1.QraMemOn = 0;
 }
 

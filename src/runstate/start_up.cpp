@@ -140,6 +140,7 @@ void restoreContest()
     FrmInit.TxtMyName.SetFocus();
     FrmInit.TxtRpNr.Visible = false;
     FrmInit.LblRpNr.Visible = false;
+    FrmInit.LblInscr.Visible = false;
 }
 
 void showMessages()

@@ -48,7 +48,8 @@ long numberAt(const Statement& statement, std::size_t word)
 
 void mustEqual(const std::string& what, const std::vector<std::string>& expected, const std::vector<std::string>& got)
 {
-    if (expected != got) throw StepFailed{what + " " + rowText(expected), rowText(got)};
+    if (expected == got) return;
+    throw StepFailed{what + " " + rowText(expected), got.empty() ? "nothing" : rowText(got)};
 }
 
 void mustCount(const std::string& where, long expected, long got)

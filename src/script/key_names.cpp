@@ -118,7 +118,8 @@ std::optional<Key> keyNamed(std::string_view name)
     if (!key) return std::nullopt;
     key->ctrl = ctrl;
     key->alt = alt;
-    key->shift = key->shift || shift;
+    // Ctrl+V is the key with the letter V on it, as one speaks of it.
+    key->shift = shift || (key->shift && !ctrl && !alt);
     if (shift) key->character = shifted(key->character);
     return key;
 }

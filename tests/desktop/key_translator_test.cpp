@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
+#include <memory>
 
 namespace {
 
@@ -17,19 +17,27 @@ struct Stroke {
     quint64 instant = 0;
     bool repeat = false;
 
-    QKeyEvent event(QEvent::Type type) const
+    std::unique_ptr<QKeyEvent> event(QEvent::Type type) const
     {
-        QKeyEvent made(type, key, modifiers, scanCode, 0, 0, text, repeat);
-        made.setTimestamp(instant);
+        auto made = std::make_unique<QKeyEvent>(type, key, modifiers, scanCode, 0, 0, text, repeat);
+        made->setTimestamp(instant);
         return made;
     }
-    QKeyEvent down() const { return event(QEvent::KeyPress); }
-    QKeyEvent up() const { return event(QEvent::KeyRelease); }
 };
+
+KeyTranslator::Entries down(KeyTranslator& translator, const Stroke& stroke)
+{
+    return translator.keyDown(*stroke.event(QEvent::KeyPress));
+}
+
+KeyTranslator::Entries up(KeyTranslator& translator, const Stroke& stroke)
+{
+    return translator.keyUp(*stroke.event(QEvent::KeyRelease));
+}
 
 platform::Key keyOf(const Stroke& stroke)
 {
-    return desktop::keyOf(stroke.down());
+    return desktop::keyOf(*stroke.event(QEvent::KeyPress));
 }
 
 /// Entries as a short text: "v" down, "r" repeat, "^" up, then the character or the code.
@@ -41,7 +49,8 @@ std::string told(const KeyTranslator::Entries& entries)
             return key.character > U' ' ? std::string(1, static_cast<char>(key.character)) : std::to_string(key.code);
         };
         if (!text.empty()) text += ' ';
-        if (const auto* down = std::get_if<app::KeyWentDown>(&entry)) text += (down->repeat ? "r" : "v") + name(down->key);
+        if (const auto* down = std::get_if<app::KeyWentDown>(&entry))
+            text += (down->repeat ? "r" : "v") + name(down->key);
         if (const auto* up = std::get_if<app::KeyWentUp>(&entry)) text += "^" + name(up->key);
     }
     return text;
@@ -114,18 +123,18 @@ TEST(KeyTranslatorTest, AThirdShiftTypesItsCharacter)
 TEST(KeyTranslatorTest, KeysOfTheSystemAreNobodys)
 {
     KeyTranslator translator;
-    EXPECT_EQ(told(translator.keyDown(Stroke{Qt::Key_F4, "", Qt::AltModifier}.down())), "");
-    EXPECT_EQ(told(translator.keyDown(Stroke{Qt::Key_L, "l", Qt::MetaModifier}.down())), "");
-    EXPECT_EQ(told(translator.keyDown(Stroke{Qt::Key_Shift, "", Qt::ShiftModifier}.down())), "");
-    EXPECT_EQ(told(translator.keyUp(Stroke{Qt::Key_Shift}.up())), "");
+    EXPECT_EQ(told(down(translator, Stroke{Qt::Key_F4, "", Qt::AltModifier})), "");
+    EXPECT_EQ(told(down(translator, Stroke{Qt::Key_L, "l", Qt::MetaModifier})), "");
+    EXPECT_EQ(told(down(translator, Stroke{Qt::Key_Shift, "", Qt::ShiftModifier})), "");
+    EXPECT_EQ(told(up(translator, Stroke{Qt::Key_Shift})), "");
 }
 
 TEST(KeyTranslatorTest, AReleaseComesWhenTheEventLoopHasTurned)
 {
     KeyTranslator translator;
     const Stroke a{Qt::Key_A, "a", Qt::NoModifier, 38, 100};
-    EXPECT_EQ(told(translator.keyDown(a.down())), "va");
-    EXPECT_EQ(told(translator.keyUp(a.up())), "");
+    EXPECT_EQ(told(down(translator, a)), "va");
+    EXPECT_EQ(told(up(translator, a)), "");
     EXPECT_TRUE(translator.holdsRelease());
     EXPECT_EQ(told(translator.turned()), "^a");
     EXPECT_FALSE(translator.holdsRelease());
@@ -136,14 +145,14 @@ TEST(KeyTranslatorTest, ReleaseAndPressAtOneInstantAreARepeat)
 {
     KeyTranslator translator;
     Stroke a{Qt::Key_A, "a", Qt::NoModifier, 38, 100};
-    translator.keyDown(a.down());
+    down(translator, a);
     a.instant = 600;
-    translator.keyUp(a.up());
-    EXPECT_EQ(told(translator.keyDown(a.down())), "ra");
+    up(translator, a);
+    EXPECT_EQ(told(down(translator, a)), "ra");
     a.instant = 630;
-    translator.keyUp(a.up());
-    EXPECT_EQ(told(translator.keyDown(a.down())), "ra");
-    translator.keyUp(a.up());
+    up(translator, a);
+    EXPECT_EQ(told(down(translator, a)), "ra");
+    up(translator, a);
     EXPECT_EQ(told(translator.turned()), "^a");
 }
 
@@ -151,20 +160,20 @@ TEST(KeyTranslatorTest, TheSameKeyTwiceIsNoRepeat)
 {
     KeyTranslator translator;
     Stroke four{Qt::Key_4, "4", Qt::NoModifier, 13, 100};
-    translator.keyDown(four.down());
+    down(translator, four);
     four.instant = 150;
-    translator.keyUp(four.up());
+    up(translator, four);
     four.instant = 151;
-    EXPECT_EQ(told(translator.keyDown(four.down())), "^4 v4");
+    EXPECT_EQ(told(down(translator, four)), "^4 v4");
 }
 
 TEST(KeyTranslatorTest, WithoutAnInstantNothingIsARepeat)
 {
     KeyTranslator translator;
     const Stroke four{Qt::Key_4, "4"};
-    translator.keyDown(four.down());
-    translator.keyUp(four.up());
-    EXPECT_EQ(told(translator.keyDown(four.down())), "^4 v4");
+    down(translator, four);
+    up(translator, four);
+    EXPECT_EQ(told(down(translator, four)), "^4 v4");
 }
 
 TEST(KeyTranslatorTest, TheNextKeyDoesNotOvertakeAHeldRelease)
@@ -172,21 +181,21 @@ TEST(KeyTranslatorTest, TheNextKeyDoesNotOvertakeAHeldRelease)
     KeyTranslator translator;
     const Stroke one{Qt::Key_1, "1", Qt::NoModifier, 10, 100};
     const Stroke two{Qt::Key_2, "2", Qt::NoModifier, 11, 100};
-    translator.keyDown(one.down());
-    translator.keyUp(one.up());
-    EXPECT_EQ(told(translator.keyDown(two.down())), "^1 v2");
+    down(translator, one);
+    up(translator, one);
+    EXPECT_EQ(told(down(translator, two)), "^1 v2");
 }
 
 TEST(KeyTranslatorTest, TheKeyboardsOwnRepeatsAreMarked)
 {
     KeyTranslator translator;
     Stroke enter{Qt::Key_Return, "\r", Qt::NoModifier, 36, 100};
-    EXPECT_EQ(told(translator.keyDown(enter.down())), "v13");
+    EXPECT_EQ(told(down(translator, enter)), "v13");
     enter.repeat = true;
-    EXPECT_EQ(told(translator.keyUp(enter.up())), "");
-    EXPECT_EQ(told(translator.keyDown(enter.down())), "r13");
+    EXPECT_EQ(told(up(translator, enter)), "");
+    EXPECT_EQ(told(down(translator, enter)), "r13");
     enter.repeat = false;
-    translator.keyUp(enter.up());
+    up(translator, enter);
     EXPECT_EQ(told(translator.turned()), "^13");
 }
 
@@ -194,19 +203,17 @@ TEST(KeyTranslatorTest, AKeyThatWentDownElsewhereNeitherRepeatsNorComesUp)
 {
     KeyTranslator translator;
     Stroke enter{Qt::Key_Return, "\r", Qt::NoModifier, 36, 100, true};
-    EXPECT_EQ(told(translator.keyDown(enter.down())), "");
+    EXPECT_EQ(told(down(translator, enter)), "");
     enter.repeat = false;
-    EXPECT_EQ(told(translator.keyUp(enter.up())), "");
+    EXPECT_EQ(told(up(translator, enter)), "");
     EXPECT_EQ(told(translator.turned()), "");
 }
 
 TEST(KeyTranslatorTest, AKeyIsTheSameWhenShiftCameUpBeforeIt)
 {
     KeyTranslator translator;
-    const Stroke down{Qt::Key_Question, "?", Qt::ShiftModifier, 61, 100};
-    const Stroke up{Qt::Key_Slash, "/", Qt::NoModifier, 61, 200};
-    EXPECT_EQ(told(translator.keyDown(down.down())), "v?");
-    translator.keyUp(up.up());
+    EXPECT_EQ(told(down(translator, {Qt::Key_Question, "?", Qt::ShiftModifier, 61, 100})), "v?");
+    up(translator, {Qt::Key_Slash, "/", Qt::NoModifier, 61, 200});
     EXPECT_EQ(told(translator.turned()), "^?");
 }
 
@@ -215,10 +222,10 @@ TEST(KeyTranslatorTest, AnotherApplicationGetsTheKeyboardAndAllKeysComeUp)
     KeyTranslator translator;
     const Stroke a{Qt::Key_A, "a", Qt::NoModifier, 38, 100};
     const Stroke b{Qt::Key_B, "b", Qt::NoModifier, 56, 110};
-    translator.keyDown(a.down());
-    translator.keyDown(b.down());
+    down(translator, a);
+    down(translator, b);
     EXPECT_EQ(told(translator.allUp()), "^a ^b");
-    EXPECT_EQ(told(translator.keyUp(a.up())), "");
+    EXPECT_EQ(told(up(translator, a)), "");
     EXPECT_EQ(told(translator.turned()), "");
 }
 
@@ -226,8 +233,8 @@ TEST(KeyTranslatorTest, APressWhoseReleaseWasNeverSeenIsAPressAgain)
 {
     KeyTranslator translator;
     const Stroke enter{Qt::Key_Return, "\r", Qt::NoModifier, 36, 100};
-    translator.keyDown(enter.down());
-    EXPECT_EQ(told(translator.keyDown(enter.down())), "v13");
+    down(translator, enter);
+    EXPECT_EQ(told(down(translator, enter)), "v13");
 }
 
 }  // namespace

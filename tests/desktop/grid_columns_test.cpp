@@ -1,0 +1,60 @@
+#include "desktop/grid_columns.h"
+
+#include <gtest/gtest.h>
+
+#include "test_page.h"
+
+namespace {
+
+using desktop::sharedWidths;
+using Widths = std::vector<double>;
+
+TEST(GridColumnsTest, ColumnsKeepTheirWidthsWhileTheirTextsFit)
+{
+    EXPECT_EQ(sharedWidths({60, 40, 40}, {50, 40, 10}, 200), (Widths{60, 40, 40}));
+}
+
+TEST(GridColumnsTest, FreeRoomGoesToAColumnThatNeedsIt)
+{
+    EXPECT_EQ(sharedWidths({60, 40, 40}, {50, 48, 10}, 150), (Widths{60, 48, 40}));
+}
+
+TEST(GridColumnsTest, ColumnsWithSpareRoomGiveWhenNoneIsFree)
+{
+    EXPECT_EQ(sharedWidths({60, 40, 40}, {50, 50, 30}, 140), (Widths{55, 50, 35}));
+}
+
+TEST(GridColumnsTest, AllGetNarrowerInANarrowGrid)
+{
+    EXPECT_EQ(sharedWidths({100, 50}, {10, 10}, 75), (Widths{50, 25}));
+}
+
+TEST(GridColumnsTest, TooLittleForAllIsSharedByNeed)
+{
+    const Widths widths = sharedWidths({40, 40}, {60, 60}, 100);
+    EXPECT_EQ(widths, (Widths{50, 50}));
+}
+
+TEST(GridColumnsTest, ColumnsOfNoWidthAreNotSeen)
+{
+    test_page::Page page;
+    const app::ControlPicture& grid = page.addGrid({0, 0, 6000, 3000}, 3, false, false);
+    desktop::Fonts fonts;
+    const auto layout = desktop::layOutColumns(grid, desktop::FormScale(12000, 9000, {800, 600}), fonts, 400, 11);
+    ASSERT_EQ(layout.columns.size(), 1U);
+    EXPECT_EQ(layout.columns[0].number, 1U);
+    EXPECT_EQ(layout.columns[0].width, 80);
+    EXPECT_EQ(layout.fontPixels, 11);
+}
+
+TEST(GridColumnsTest, TheFontGetsSmallerWhenThereIsNoRoomAtAll)
+{
+    test_page::Page page;
+    const app::ControlPicture& grid = page.addGrid({0, 0, 6000, 3000}, 3, false, false);
+    desktop::Fonts fonts;
+    const auto layout = desktop::layOutColumns(grid, desktop::FormScale(12000, 9000, {800, 600}), fonts, 60, 20);
+    EXPECT_LT(layout.fontPixels, 20);
+    EXPECT_GE(layout.fontPixels, desktop::smallestFontPixels);
+}
+
+}  // namespace
