@@ -6,6 +6,7 @@
 #include "entry/commit.h"
 #include "entry/duplicate.h"
 #include "entry/flow.h"
+#include "entry/time_fields.h"
 #include "entry/undo.h"
 #include "runstate/contests.h"
 #include "runstate/road.h"
@@ -105,6 +106,14 @@ void wireFields()
     FrmQSO.txtRSTe3.KeyPress = entry::txtRSTe3_KeyPress;
     FrmQSO.TxtYourName.KeyDown = entry::TxtYourName_KeyDown;
     FrmQSO.TxtYourName.KeyPress = entry::TxtYourName_KeyPress;
+    FrmQSO.TxtUTC.GotFocus = entry::TxtUTC_GotFocus;
+    FrmQSO.TxtUTC.DblClick = entry::TxtUTC_DblClick;
+    FrmQSO.TxtUTC.KeyDown = entry::TxtUTC_KeyDown;
+    FrmQSO.TxtUTC.KeyPress = entry::TxtUTC_KeyPress;
+    FrmQSO.TxtDate.GotFocus = entry::TxtDate_GotFocus;
+    FrmQSO.TxtDate.DblClick = entry::TxtDate_DblClick;
+    FrmQSO.TxtDate.KeyDown = entry::TxtDate_KeyDown;
+    FrmQSO.TxtDate.KeyPress = entry::TxtDate_KeyPress;
     for (screen::TextBox* box : {&FrmQSO.TxtFGHz, &FrmQSO.txtPauseCW, &FrmQSO.TxtPauseSSB, &FrmQSO.TxtPauseFm,
                                  &FrmQSO.TxtCwCurent})
         box->KeyDown = entry::swallowF1;

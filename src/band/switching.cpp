@@ -87,6 +87,8 @@ void showSendingFrames()
     FrmQSO.txtPauseCW.Visible = cw && keys && live && Modul1.CwRptFlag == 100;
     FrmQSO.TxtPauseSSB.Visible = Modul1.ModeCur == "SSB" && live && Modul1.SsbRptFlag == 100;
     FrmQSO.TxtPauseFm.Visible = Modul1.ModeCur == "Fm" && live && Modul1.SsbRptFlag == 100;
+    FrmQSO.LblPause.Visible =
+        FrmQSO.txtPauseCW.Visible || FrmQSO.TxtPauseSSB.Visible || FrmQSO.TxtPauseFm.Visible;
 }
 
 void takePromptAway(const ModeRow& mode)

@@ -43,13 +43,16 @@ QColor markBackground(const app::ControlPicture& control, bool pressed)
 void paintLabel(Canvas& canvas, const app::ControlPicture& label)
 {
     const QRect place = canvas.scale.pixels(label.place);
+    const QString text = toolkitText(label.text);
+    // A label that says nothing shall not blot out the field that its place reaches into.
+    if (text.trimmed().isEmpty() && label.background == screen::buttonFace) return;
     canvas.painter.fillRect(place, toolkitColour(label.background));
     canvas.painter.setPen(textColourOf(label));
     const int wanted = canvas.scale.fontPixels(label.fontPoints);
     const bool oneLine = place.height() < 2 * canvas.fonts.metrics(wanted, label.bold).height();
     const int across = label.rightAligned ? Qt::AlignRight : Qt::AlignLeft;
     const int down = oneLine ? Qt::AlignVCenter : Qt::AlignTop;
-    paintFittedText(canvas, QRectF(place).adjusted(1, 0, -1, 0), toolkitText(label.text), wanted, label.bold,
+    paintFittedText(canvas, QRectF(place).adjusted(1, 0, -1, 0), text, wanted, label.bold,
                     across | down | Qt::TextWordWrap);
 }
 

@@ -105,13 +105,13 @@ void refuse(const Refusal& refusal)
 /// The checks, the distance and the heading. A refusal ends it.
 std::optional<Refusal> distanceAndHeading()
 {
-    if (const auto refusal = judge(Modul1.QraLoc)) return refusal;
+    if (auto refusal = judge(Modul1.QraLoc)) return refusal;
     const Position own{Modul1.LonMy, Modul1.LatMy};
     const Position other{Modul1.LonCur, Modul1.LatCur};
     const double angle = centralAngle(angleCosine(own, other));
     Modul1.Qrb = kilometres(angle);
     if (base::trim(Modul1.MyQRA) == base::trim(Modul1.QraLoc)) Modul1.Qrb = 1;
-    if (const auto refusal = judgeDistance(Modul1.QraLoc)) return refusal;
+    if (auto refusal = judgeDistance(Modul1.QraLoc)) return refusal;
     FrmQSO.LblQRB1.Caption = base::toText(std::llround(Modul1.Qrb)) + " Km";
     FrmQSO.Beam = base::toInt16(static_cast<long long>(beamHeading(own, other, angle)));
     FrmQSO.LblBeam1.Caption = base::toText(FrmQSO.Beam) + " °";

@@ -31,7 +31,7 @@ fs::path entryIgnoringCase(const fs::path& folder, const fs::path& name)
 
 fs::path resolve(std::string_view designPath)
 {
-    const fs::path asWritten = nativePath(designPath);
+    fs::path asWritten = nativePath(designPath);
     std::error_code ignored;
     if (asWritten.empty() || fs::exists(asWritten, ignored)) return asWritten;
     if (!asWritten.has_parent_path() || asWritten.parent_path() == asWritten) return asWritten;

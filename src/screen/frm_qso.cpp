@@ -204,7 +204,7 @@ void FrmQSOForm::placePauses()
     put(LblStopCW, "ESC/END=STOP CW", {9760, 1390, 2120, 250});
     setFont({&LblPause, &LblStopCW}, 8, true);
     setBackColor({&TxtPauseSSB, &txtPauseCW, &TxtPauseFm}, yellow);
-    hide({&TxtPauseSSB, &txtPauseCW, &TxtPauseFm, &LblStopCW});
+    hide({&LblPause, &TxtPauseSSB, &txtPauseCW, &TxtPauseFm, &LblStopCW});
 }
 
 void FrmQSOForm::placeDuplicate()

@@ -4,6 +4,7 @@
 
 #include <QClipboard>
 #include <QMenu>
+#include <QMenuBar>
 #include <csignal>
 
 #include "desktop/termination_signals.h"
@@ -121,6 +122,19 @@ TEST_F(DesktopProgramTest, AKeyComesUpInTheFormAlsoOverABox)
     EXPECT_EQ(station_.focus(), "TxtMyCall");
     station_.type("y");
     EXPECT_EQ(station_.text("TxtMyCall"), "Y");
+}
+
+TEST_F(DesktopProgramTest, KeysComeUpWhenAnotherApplicationHasTheKeyboard)
+{
+    platform::KeyState& keys = station_.program().machine().keyState;
+    station_.keyDown(Qt::Key_End);
+    EXPECT_TRUE(keys.pressed(platform::PolledKey::end));
+    EXPECT_TRUE(keys.pressed(platform::PolledKey::end)) << "it is still down";
+    Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive);
+    EXPECT_FALSE(keys.pressed(platform::PolledKey::end));
+    station_.keyUp(Qt::Key_End);
+    station_.type("3");
+    EXPECT_EQ(station_.text("TxtRpNr"), "3");
 }
 
 TEST_F(DesktopProgramTest, AltAndALetterPickTheControlThatNamesIt)
