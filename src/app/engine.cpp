@@ -32,13 +32,20 @@ bool isCharacterKey(const Key& key)
     return key.character >= U' ' && !key.ctrl && !key.alt;
 }
 
-/// Keys that act once however long they are held.
-bool actsOncePerPress(int code)
+/// Alt and a letter: it clicks what has this letter marked.
+bool isMnemonic(const Key& key)
+{
+    return key.alt && key.character != 0;
+}
+
+/// Keys that act once however long they are held, among them those that act on something else than the field.
+bool actsOncePerPress(const Key& key)
 {
     constexpr std::array once = {platform::keyTab, platform::keySpace, platform::keyEnter, platform::keyEscape,
                                  platform::keyInsert};
-    return std::find(once.begin(), once.end(), code) != once.end() ||
-           (code >= platform::keyF1 && code <= platform::keyF12);
+    const bool functionKey = key.code >= platform::keyF1 && key.code <= platform::keyF12;
+    const bool touchesRow = key.ctrl && key.code == platform::keyDelete;
+    return functionKey || touchesRow || isMnemonic(key) || std::find(once.begin(), once.end(), key.code) != once.end();
 }
 
 /// What KeyPress gets for a key, 0 for a key that has none.
@@ -65,6 +72,11 @@ Control* focusedField()
 bool canBeClicked(const Control& control)
 {
     return &control.form == screen::activeForm() && control.seen() && control.enabled();
+}
+
+bool runs(const screen::Timer& timer)
+{
+    return timer.form.life == screen::FormLife::loaded && timer.Enabled && timer.Interval > 0 && timer.Tick != nullptr;
 }
 
 bool isParkingPlace(const Control& control)
@@ -227,36 +239,35 @@ void Engine::serve()
     publish();
 }
 
+/// All timers. They stay where they are when a timer loads its own form again.
+std::vector<screen::Timer*> Engine::timers() const
+{
+    std::vector<screen::Timer*> timers;
+    for (const screen::Form* form : forms_)
+        for (Control* control : form->controls())
+            if (control->kind == Kind::timer) timers.push_back(static_cast<screen::Timer*>(control));
+    return timers;
+}
+
 void Engine::tick()
 {
     const platform::MonotonicTime now = platform::machine().clock.monotonic();
-    for (screen::Form* form : forms_) {
-        if (form->life != screen::FormLife::loaded) continue;
-        for (Control* control : form->controls()) {
-            if (control->kind != Kind::timer) continue;
-            auto& timer = static_cast<screen::Timer&>(*control);
-            const platform::MonotonicTime interval = std::chrono::milliseconds(timer.Interval);
-            if (!timer.Enabled || timer.Interval <= 0 || timer.Tick == nullptr) continue;
-            if (timer.due.count() == 0) timer.due = now + interval;
-            if (now < timer.due) continue;
-            timer.due += interval * ((now - timer.due) / interval + 1);
-            run(timer.Tick);
-        }
+    for (screen::Timer* timer : timers()) {
+        if (!runs(*timer)) continue;
+        const platform::MonotonicTime interval = std::chrono::milliseconds(timer->Interval);
+        if (timer->due.count() == 0) timer->due = now + interval;
+        if (now < timer->due) continue;
+        timer->due += interval * ((now - timer->due) / interval + 1);
+        run(timer->Tick);
+        settleFocus();
     }
 }
 
 std::optional<platform::MonotonicTime> Engine::nextTick() const
 {
     std::optional<platform::MonotonicTime> next;
-    for (const screen::Form* form : forms_) {
-        if (form->life != screen::FormLife::loaded) continue;
-        for (const Control* control : form->controls()) {
-            if (control->kind != Kind::timer) continue;
-            const auto& timer = static_cast<const screen::Timer&>(*control);
-            if (!timer.Enabled || timer.Interval <= 0 || timer.Tick == nullptr) continue;
-            next = next ? std::min(*next, timer.due) : timer.due;
-        }
-    }
+    for (const screen::Timer* timer : timers())
+        if (runs(*timer)) next = next ? std::min(*next, timer->due) : timer->due;
     return next;
 }
 
@@ -272,6 +283,8 @@ void Engine::settleFocus()
         moveLostFocus(*form);
         Control* field = form->ActiveControl;
         if (field == form->gotFocus) return;
+        // It was hidden or switched off once the focus was there, and nothing else takes it.
+        if (field != nullptr && !field->canTakeFocus()) return;
         form->gotFocus = field;
         if (field != nullptr && field->GotFocus != nullptr) run(field->GotFocus);
     }
@@ -296,18 +309,18 @@ void Engine::keyWentDown(const Key& key)
     if (isCharacterKey(key)) releaseEarlierCharacterKeys();
     // The release of this key may have gone to a window that is not ours.
     std::erase_if(downKeys_, [&](const DownKey& down) { return down.key.sameKeyAs(key); });
-    Control* field = focusedField();
-    downKeys_.push_back({key, field});
-    press(field, key);
+    const Addressee to = addressee();
+    downKeys_.push_back({key, to});
+    press(to, key);
 }
 
 void Engine::keyRepeats(const Key& key)
 {
     const auto down = std::find_if(downKeys_.begin(), downKeys_.end(),
                                    [&](const DownKey& candidate) { return candidate.key.sameKeyAs(key); });
-    if (down == downKeys_.end() || down->field == nullptr || actsOncePerPress(key.code)) return;
-    if (focusedField() != down->field) return;
-    press(down->field, key);
+    if (down == downKeys_.end() || actsOncePerPress(key)) return;
+    const Addressee first = down->to;
+    if (first.isThere() && focusedField() == first.field) press(first, key);
 }
 
 void Engine::keyWentUp(const Key& key)
@@ -315,7 +328,7 @@ void Engine::keyWentUp(const Key& key)
     const auto down = std::find_if(downKeys_.begin(), downKeys_.end(),
                                    [&](const DownKey& candidate) { return candidate.key.sameKeyAs(key); });
     if (down == downKeys_.end()) return;
-    const bool reachedField = down->field != nullptr;
+    const bool reachedField = down->to.field != nullptr;
     const Key pressed = down->key;
     downKeys_.erase(down);
     if (reachedField) deliverKeyUp(pressed);
@@ -330,7 +343,7 @@ void Engine::releaseEarlierCharacterKeys()
                  [](const DownKey& down) { return isCharacterKey(down.key); });
     std::erase_if(downKeys_, [](const DownKey& down) { return isCharacterKey(down.key); });
     for (const DownKey& down : earlier)
-        if (down.field != nullptr) deliverKeyUp(down.key);
+        if (down.to.field != nullptr) deliverKeyUp(down.key);
 }
 
 void Engine::deliverKeyUp(const Key& key)
@@ -342,34 +355,49 @@ void Engine::deliverKeyUp(const Key& key)
     settleFocus();
 }
 
-void Engine::press(Control* field, const Key& key)
+Engine::Addressee Engine::addressee()
+{
+    Control* field = focusedField();
+    return {field, field == nullptr ? 0 : field->form.lives};
+}
+
+bool Engine::Addressee::isThere() const
+{
+    return field != nullptr && &field->form == screen::activeForm() && field->form.lives == lifeOfForm;
+}
+
+void Engine::press(Addressee to, const Key& key)
 {
     screen::Form* form = screen::activeForm();
     if (form == nullptr) return;
-    if (key.alt && key.character != 0) {
+    if (isMnemonic(key)) {
         Control* named = screen::controlWithMnemonic(*form, key.character);
         if (named != nullptr) clicked(*named);
         return;
     }
     if (actsOnGrid(key)) return;
     if (key.code == platform::keyTab && !key.ctrl && !key.alt) {
-        Control* next = nextStop(*form, field, key.shift);
+        Control* next = nextStop(*form, to.field, key.shift);
         if (next != nullptr) return next->SetFocus();
     }
 
     int code = key.code;
-    if (field != nullptr && field->KeyDown != nullptr) run([&] { field->KeyDown(code); });
+    if (to.field != nullptr && to.field->KeyDown != nullptr) run([&] { to.field->KeyDown(code); });
     if (code == platform::keyNone && key.code != platform::keyNone) return;
     if (code == platform::keyF1) return openHelp();
-    if (field == nullptr || isParkingPlace(*field) || &field->form != screen::activeForm()) return;
+    if (to.isThere() && !isParkingPlace(*to.field)) typeOrOperate(to, key);
+}
 
+/// What a key does behind its KeyDown.
+void Engine::typeOrOperate(Addressee to, const Key& key)
+{
     char32_t character = characterOf(key);
     const bool types = character != 0;
-    if (types && field->KeyPress != nullptr) run([&] { field->KeyPress(character); });
-    if (types && character == 0) return;
-    if (field->kind != Kind::textBox) return operate(*field, key);
+    if (types && to.field->KeyPress != nullptr) run([&] { to.field->KeyPress(character); });
+    if ((types && character == 0) || !to.isThere()) return;
+    if (to.field->kind != Kind::textBox) return operate(*to.field, key);
 
-    auto& box = static_cast<screen::TextBox&>(*field);
+    auto& box = static_cast<screen::TextBox&>(*to.field);
     if (character == platform::charBackspace)
         screen::eraseBackwards(box);
     else if (character >= U' ')
@@ -380,12 +408,13 @@ void Engine::press(Control* field, const Key& key)
 
 void Engine::pasted(const std::string& text)
 {
-    Control* field = focusedField();
-    if (field == nullptr || field->kind != Kind::textBox || isParkingPlace(*field)) return;
+    const Addressee to = addressee();
+    if (to.field == nullptr || to.field->kind != Kind::textBox || isParkingPlace(*to.field)) return;
     for (char32_t character : base::toCharacters(text)) {
         if (character < U' ') continue;
-        if (field->KeyPress != nullptr) run([&] { field->KeyPress(character); });
-        if (character >= U' ') screen::typeCharacter(static_cast<screen::TextBox&>(*field), character);
+        if (to.field->KeyPress != nullptr) run([&] { to.field->KeyPress(character); });
+        if (!to.isThere()) return;
+        if (character >= U' ') screen::typeCharacter(static_cast<screen::TextBox&>(*to.field), character);
     }
 }
 

@@ -41,10 +41,19 @@ class Engine {
     void publish();
 
    private:
-    /// A key that is down, and whether its KeyDown reached a field.
+    /// The field that a key goes to, if there is one. A form that is loaded again has other fields at the same place.
+    struct Addressee {
+        screen::Control* field = nullptr;
+        unsigned lifeOfForm = 0;
+
+        /// The field is on the screen's form, and still the one that it was.
+        bool isThere() const;
+    };
+
+    /// A key that is down, and the field that its KeyDown reached.
     struct DownKey {
         platform::Key key;
-        screen::Control* field = nullptr;
+        Addressee to;
     };
 
     void keyWentDown(const platform::Key& key);
@@ -52,7 +61,8 @@ class Engine {
     void keyWentUp(const platform::Key& key);
     void releaseEarlierCharacterKeys();
     void deliverKeyUp(const platform::Key& key);
-    void press(screen::Control* field, const platform::Key& key);
+    void press(Addressee to, const platform::Key& key);
+    void typeOrOperate(Addressee to, const platform::Key& key);
     void pasted(const std::string& text);
     void clicked(screen::Control& control);
     void doubleClicked(screen::Control& control);
@@ -61,6 +71,8 @@ class Engine {
     void rowPicked(const RowPicked& entry);
     void takeFocus(screen::Control& control);
     void moveLostFocus(screen::Form& form);
+    static Addressee addressee();
+    std::vector<screen::Timer*> timers() const;
     void runHandlersOf(const QueueEntry& entry);
 
     std::vector<screen::Form*> forms_;

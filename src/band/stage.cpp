@@ -224,7 +224,8 @@ void showLog(std::int32_t band)
 
 void finishStage()
 {
-    Modul1.TotalsDone = 100;
+    // A stage that was chosen before any band has summed nothing.
+    if (Modul1.BandCur != 0) Modul1.TotalsDone = 100;
     entry::openWhenAllIsChosen();
     FrmQSO.TxtRez.SetFocus();
     if (FrmQSO.LblAnunt.Visible) return;

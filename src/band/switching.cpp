@@ -148,6 +148,7 @@ void B144()
         FrmQSO.Cmd432.Visible = false;
         FrmQSO.Cmd1296.Visible = false;
     }
+    entry::openWhenAllIsChosen();
 }
 
 void B432()
@@ -188,12 +189,13 @@ void B1296()
         FrmQSO.Cmd144.Visible = false;
     } else {
         takeOnlyStage();
+        // The totals of the stage have moved it.
+        Modul1.BandCur = 1296;
     }
     openEntry();
     if (contestIs({2, 5, 8, 100})) showCodeLabel(FrmQSO.LblCod1296);
     if (contestIs({3})) showCodeLabel(FrmQSO.LblCod);
-    // The totals of the stage have moved it.
-    Modul1.BandCur = 1296;
+    entry::openWhenAllIsChosen();
 }
 
 void BGHz()

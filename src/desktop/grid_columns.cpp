@@ -65,6 +65,7 @@ GridColumns layOutColumns(const app::ControlPicture& grid, const FormScale& scal
         widths.push_back(scale.x(grid.grid->columnWidths[column]));
 
     GridColumns layout;
+    layout.columns.reserve(seen.size());
     std::vector<double> needs;
     for (layout.fontPixels = wantedFontPixels;; --layout.fontPixels) {
         const QFontMetricsF& metrics = fonts.metrics(layout.fontPixels, grid.bold);

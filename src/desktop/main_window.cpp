@@ -86,11 +86,11 @@ void MainWindow::resizeEvent(QResizeEvent* event)
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() != QEvent::KeyPress) return QMainWindow::eventFilter(watched, event);
-    if (watched == menuBar()) {
-        // Behind the key: by then it may have left the bar, or picked an entry.
+    const bool key = event->type() == QEvent::KeyPress;
+    // Behind the event: by then a key may have left the bar or picked an entry, the pointer have taken the mark away.
+    if (watched == menuBar() && (key || event->type() == QEvent::Leave))
         QMetaObject::invokeMethod(this, &MainWindow::leaveIdleMenuBar, Qt::QueuedConnection);
-    } else if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_F10) {
+    if (watched == form_ && key && static_cast<QKeyEvent*>(event)->key() == Qt::Key_F10) {
         enterMenuBar();
         return true;
     }

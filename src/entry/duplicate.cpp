@@ -107,7 +107,7 @@ void zeroEarlierPoints()
     const LogTable* table = currentLogTable();
     if (Modul1.ConcId == maratonContest || table == nullptr || table->band == bandGHz) return;
     Modul1.DbLog = storage::OpenDatabase(storage::logDatabasePath());
-    Modul1.DbLog.Execute(storage::zeroPointsOfCall(table->name, Modul1.IndicLog));
+    Modul1.DbLog.Execute(storage::zeroPointsOfCall(table->name, base::trim(Modul1.IndicLog)));
     table->layOut();
 }
 

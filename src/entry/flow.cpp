@@ -356,20 +356,20 @@ void TxtRSTr3_KeyPress(char32_t& KeyAscii)
     KeyAscii = base::upper(KeyAscii);
     if (FrmQSO.NextField != 100) return;
     if (takeLocator()) toCall();
+    FrmQSO.NextField = 0;
 }
 
 void TxtRSTr3_KeyUp(int& KeyCode)
 {
     if (trimmedLength(FrmQSO.TxtRSTr3) == wholeLocator) FrmQSO.NextField = 100;
-    if (FrmQSO.NextField == 100) {
-        if (!takeLocator()) return;
-        if (maraton()) {
-            FrmQSO.TxtYourName.SetFocus();
-            FrmQSO.TxtYourName.caretToEnd();
-        } else {
-            toCall();
-        }
-        FrmQSO.NextField = 0;
+    const bool finished = FrmQSO.NextField == 100;
+    FrmQSO.NextField = 0;
+    if (finished && !takeLocator()) return;
+    if (finished && maraton()) {
+        FrmQSO.TxtYourName.SetFocus();
+        FrmQSO.TxtYourName.caretToEnd();
+    } else if (finished) {
+        toCall();
     }
     clearKeyerBusyOnEscape(KeyCode);
 }

@@ -99,7 +99,7 @@ void ClcPct()
     }
     const PointsRule rule = pointsFor(Modul1.ConcId, Modul1.BandCur, std::lround(Modul1.Qrb));
     if (rule.points) Modul1.PctCur = base::toText(*rule.points);
-    if (rule.tail == PointsTail::prefix && !isRomanianCall(Modul1.Indic)) Modul1.PctCur = "0";
+    if (rule.tail == PointsTail::prefix && !isRomanianCall(base::trim(Modul1.Indic))) Modul1.PctCur = "0";
     if (rule.tail == PointsTail::duplicateFlag && FrmQSO.DubActual == 10) {
         Modul1.PctCur = "0";
         FrmQSO.DubActual = 0;

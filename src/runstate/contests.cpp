@@ -45,7 +45,7 @@ constexpr EntryPage international{yes, yes, yes, yes, false, false, no, yes, pic
 constexpr EntryPage againNothing{leave, leave, leave, leave, false, false, leave, leave, nullptr, 0, false, false, false};
 constexpr EntryPage againCarpati{no, no, leave, yes, true, false, yes, yes, "SELECT MODE SI ETAPA", 0, false, false, false};
 constexpr EntryPage againTelecom{no, no, leave, yes, true, false, yes, leave, "SELECT MODE SI ETAPA", 0, false, false, false};
-constexpr EntryPage againOneBand{no, no, leave, yes, true, false, no, leave, "SELECT MODE ", 0, false, false, false};
+constexpr EntryPage againOneBand{no, no, leave, yes, true, false, no, leave, "SELECT MODE ", 0, false, false, true};
 constexpr EntryPage againOnePass{leave, leave, leave, leave, false, false, no, no, pickBand, threeRows, true, false, false};
 constexpr EntryPage againInternational{yes, yes, yes, leave, false, false, no, yes, pickBand, fourRows, true, true, false};
 
@@ -238,6 +238,16 @@ void layOutEntryForm()
         screen::qso::MForm();
     else
         screen::qso::MFormMare();
+}
+
+void restorePage()
+{
+    const Contest* contest = contestById(Modul1.ConcId);
+    if (contest == nullptr) return;
+    applyPage(contest->reloadedPage);
+    nameOnlyBand(contest->id);
+    const bool wasChosen = !Modul1.ConcShort.empty();
+    if (wasChosen) FrmQSO.LblConc.Caption = contest->shownName;
 }
 
 void applyPage(const EntryPage& page)

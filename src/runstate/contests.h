@@ -72,4 +72,7 @@ void layOutEntryForm();
 /// Applies a page to the entry form.
 void applyPage(const EntryPage& page);
 
+/// Gives the entry form that is loaded again what the contest in hand needs.
+void restorePage();
+
 }  // namespace runstate

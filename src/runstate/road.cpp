@@ -42,11 +42,18 @@ bool nameIsThere()
     return false;
 }
 
-/// A checked box colours the field of the entry form that it belongs to.
-std::uint16_t repeatFlag(const screen::CheckBox& box, screen::Control& field)
+/// The fields of the entry form that belong to the boxes of automatic repeating.
+void colourRepeatFields()
 {
-    field.BackColor = box.Value == 1 ? screen::green : screen::yellow;
-    return box.Value == 1 ? 100 : 0;
+    FrmQSO.TxtF1.BackColor = Modul1.CwRptFlag == 100 ? screen::green : screen::yellow;
+    FrmQSO.TxtPauseSSB.BackColor = Modul1.SsbRptFlag == 100 ? screen::green : screen::yellow;
+}
+
+void takeRepeatFlags()
+{
+    Modul1.CwRptFlag = FrmInit.ChkCwRpt.Value == 1 ? 100 : 0;
+    Modul1.SsbRptFlag = FrmInit.ChkSSBRpt.Value == 1 ? 100 : 0;
+    colourRepeatFields();
 }
 
 void takeMessages()
@@ -95,7 +102,10 @@ void writeSetUp(void (*write)())
 
 void showEntryForm()
 {
-    if (FrmQSO.life != screen::FormLife::loaded) screen::load(FrmQSO);
+    if (FrmQSO.life != screen::FormLife::loaded) {
+        screen::load(FrmQSO);
+        colourRepeatFields();
+    }
     FrmQSO.Show();
     FrmInit.Unload();
     Modul1.GridRebuild = 100;
@@ -144,7 +154,8 @@ void resume()
     if (band == 1296) band::B1296();
     if (band > entry::highestNamedBand) {
         band::BGHz();
-        Modul1.BandCur = base::roundToInt32(base::numericValue(FrmQSO.TxtFGHz.Text));
+        const double frequency = base::numericValue(FrmQSO.TxtFGHz.Text);
+        if (frequency > entry::highestNamedBand) Modul1.BandCur = base::roundToInt32(frequency);
     }
     if (Modul1.Etapa == "A") band::EA();
     if (Modul1.Etapa == "B") band::EB();
@@ -179,8 +190,7 @@ void QSOFahr()
         Modul1.TimeOff = FrmInit.TxtST.Text;
     }
     if (!nameIsThere()) return;
-    Modul1.CwRptFlag = repeatFlag(FrmInit.ChkCwRpt, FrmQSO.TxtF1);
-    Modul1.SsbRptFlag = repeatFlag(FrmInit.ChkSSBRpt, FrmQSO.TxtPauseSSB);
+    takeRepeatFlags();
     takeMessages();
     writeSetUp(WriteTextCw);
     if (Modul1.ConcReturn == 0) {
@@ -248,7 +258,6 @@ void mnuAnfang_Click()
     Modul1.ConcReturn = 100;
     const std::string name = FrmQSO.TxtMyName.Text;
     screen::load(FrmInit);
-    FrmQSO.LblOffLine.Visible = false;
     if (Modul1.ConcId == maraton) FrmInit.TxtMyName.Text = name;
     FrmInit.Show();
     FrmQSO.Hide();

@@ -207,6 +207,7 @@ void FrmInit_Load()
         screen::init::MFormMare();
     Modul1.AppPath = platform::machine().installation.programFolder();
     Modul1.OfflineInput = 0;
+    FrmQSO.LblOffLine.Visible = false;
     Modul1.AppDir = appDirOf(Modul1.AppPath);
     Modul1.TotalsDone = 0;
     explainModes();
@@ -244,7 +245,7 @@ void FrmQSO_Load()
     bindDataControls();
     if (Modul1.ModeCur == "  " || Modul1.BandCur == 0) FrmQSO.LblAnunt.Visible = true;
     FrmQSO.DBGrid9.Visible = false;
-    if (const Contest* contest = contestById(Modul1.ConcId)) applyPage(contest->reloadedPage);
+    restorePage();
     if (Modul1.ConcId == maraton) FrmQSO.TxtMyName.Text = Modul1.MyName;
     go(ReadTextCw);
     showMessagesOnEntryForm();

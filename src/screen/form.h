@@ -45,6 +45,7 @@ class Form {
     int HelpContextID = 0;
     bool Visible = false;
     FormLife life = FormLife::neverLoaded;
+    unsigned lives = 0;  ///< how often it was built anew: what was meant for an earlier life is not for this one
     FormHooks hooks;
     Control* ActiveControl = nullptr;  ///< has the focus while the form is the active one
     Control* gotFocus = nullptr;       ///< the control whose GotFocus ran last
@@ -77,11 +78,13 @@ template <typename SomeForm>
 void rebuild(SomeForm& form, FormLife life)
 {
     const FormHooks hooks = form.hooks;
+    const unsigned lives = form.lives + 1;
     form.Hide();
     std::destroy_at(&form);
     std::construct_at(&form);
     form.hooks = hooks;
     form.life = life;
+    form.lives = lives;
     if (hooks.wire != nullptr) hooks.wire();
 }
 

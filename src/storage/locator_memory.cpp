@@ -9,12 +9,12 @@ namespace storage {
 
 void ScrQRA()
 {
-    Modul1.DbQra.Execute(insertLocator(Modul1.IndicLog, Modul1.QraLoc));
+    Modul1.DbQra.Execute(insertLocator(base::trim(Modul1.IndicLog), Modul1.QraLoc));
 }
 
 void ModifQRA()
 {
-    Modul1.DbQra.Execute(updateLocator(Modul1.IndicLog, Modul1.QraLoc));
+    Modul1.DbQra.Execute(updateLocator(base::trim(Modul1.IndicLog), Modul1.QraLoc));
 }
 
 void learnLocator()
