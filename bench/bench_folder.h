@@ -6,14 +6,14 @@
 namespace bench {
 
 class Folder {
-   public:
+ public:
     Folder();
     Folder(const Folder&) = delete;
     Folder& operator=(const Folder&) = delete;
     ~Folder();
     const std::filesystem::path& path() const { return path_; }
 
-   private:
+ private:
     std::filesystem::path path_;
 };
 

@@ -1,5 +1,5 @@
-// One QSO committed, from Enter to the cleared screen, beside a bare durable INSERT with the same settings into the same
-// file. Run with random interleaving, so that both see the same disk:
+// One QSO committed, from Enter to the cleared screen, beside a bare durable INSERT with the same settings into the
+// same file. Run with random interleaving, so that both see the same disk:
 //
 //     commit_bench --benchmark_enable_random_interleaving=true --benchmark_repetitions=9
 //                  --benchmark_report_aggregates_only=true
@@ -7,8 +7,8 @@
 
 #include <chrono>
 
-#include "screen/frm_qso.h"
 #include "bench_folder.h"
+#include "screen/frm_qso.h"
 #include "support/station.h"
 
 namespace {
@@ -29,8 +29,8 @@ void bareInsert(benchmark::State& state)
     for (auto _ : state) {
         const std::string call = "DL" + std::to_string(number++) + "X";
         const auto start = Clock::now();
-        log.execute("INSERT INTO Uus144a (Callsign, Data , UTC, Sent, Rcvd, Mode, Freq, QRALoc, Pct)  VALUES ('" + call +
-                    "','15.11.26','12:34','599 001','599 012','CW','144','KN16AA','163');");
+        log.execute("INSERT INTO Uus144a (Callsign, Data , UTC, Sent, Rcvd, Mode, Freq, QRALoc, Pct)  VALUES ('" +
+                    call + "','15.11.26','12:34','599 001','599 012','CW','144','KN16AA','163');");
         state.SetIterationTime(secondsSince(start));
     }
 }

@@ -10,9 +10,9 @@
 #include <thread>
 #include <vector>
 
+#include "bench_folder.h"
 #include "desktop/desktop_program.h"
 #include "screen/frm_init.h"
-#include "bench_folder.h"
 
 namespace {
 
@@ -38,7 +38,9 @@ Late measure(Now now, SleepUntil sleepUntil)
 void print(const char* name, Late late)
 {
     std::sort(late.begin(), late.end());
-    const auto at = [&](double part) { return late[static_cast<std::size_t>(part * static_cast<double>(late.size() - 1))]; };
+    const auto at = [&](double part) {
+        return late[static_cast<std::size_t>(part * static_cast<double>(late.size() - 1))];
+    };
     std::printf("%-34s median %7.3f   99%% %7.3f   worst %7.3f\n", name, at(0.5), at(0.99), at(1.0));
 }
 

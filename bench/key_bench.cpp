@@ -2,14 +2,14 @@
 #include <benchmark/benchmark.h>
 
 #include "base/text.h"
-#include "screen/frm_qso.h"
 #include "bench_folder.h"
+#include "screen/frm_qso.h"
 #include "support/station.h"
 
 namespace {
 
 class LastPicture : public app::PictureSink {
-   public:
+ public:
     void publish(std::shared_ptr<const app::Picture> picture) override { last = std::move(picture); }
     std::shared_ptr<const app::Picture> last;
 };

@@ -8,10 +8,10 @@
 #include <fstream>
 #include <string>
 
+#include "bench_folder.h"
 #include "desktop/desktop_program.h"
 #include "screen/frm_init.h"
 #include "screen/frm_qso.h"
-#include "bench_folder.h"
 #include "support/station.h"
 
 namespace {
@@ -46,11 +46,10 @@ void showLog()
     desktop::DesktopProgram program(commandLine);
     program.start();
     program.waitUntilIdle();
-    for (screen::Control* control : {static_cast<screen::Control*>(&FrmInit.OpBFloareademina),
-                                     static_cast<screen::Control*>(&FrmInit.OpbTest),
-                                     static_cast<screen::Control*>(&FrmInit.mnuQSOfahren),
-                                     static_cast<screen::Control*>(&FrmQSO.Cmd144),
-                                     static_cast<screen::Control*>(&FrmQSO.CmdCW)}) {
+    for (screen::Control* control :
+         {static_cast<screen::Control*>(&FrmInit.OpBFloareademina), static_cast<screen::Control*>(&FrmInit.OpbTest),
+          static_cast<screen::Control*>(&FrmInit.mnuQSOfahren), static_cast<screen::Control*>(&FrmQSO.Cmd144),
+          static_cast<screen::Control*>(&FrmQSO.CmdCW)}) {
         program.post(app::ControlClicked{control});
         program.waitUntilIdle();
     }

@@ -24,7 +24,7 @@ class NoEntries : public app::EntrySource {
 };
 
 class DatabaseTrouble : public testing::Test {
-   protected:
+ protected:
     DatabaseTrouble() { storage::makeMissingDatabases(folder.path()); }
 
     fs::path log() const { return folder.file("LogKelvo.mdb"); }
@@ -65,7 +65,8 @@ class DatabaseTrouble : public testing::Test {
         sqlite3_stmt* statement = nullptr;
         long rows = -1;
         if (sqlite3_open_v2(file.c_str(), &database, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK &&
-            sqlite3_prepare_v2(database, ("SELECT count(*) FROM " + table).c_str(), -1, &statement, nullptr) == SQLITE_OK &&
+            sqlite3_prepare_v2(database, ("SELECT count(*) FROM " + table).c_str(), -1, &statement, nullptr) ==
+                SQLITE_OK &&
             sqlite3_step(statement) == SQLITE_ROW)
             rows = sqlite3_column_int(statement, 0);
         sqlite3_finalize(statement);
@@ -146,7 +147,7 @@ TEST_F(DatabaseTrouble, LogLockedByAnotherProgram)
 
 /// The same on a disk in memory that can be made to fail.
 class DiskTrouble : public DatabaseTrouble {
-   protected:
+ protected:
     DiskTrouble()
     {
         for (const char* name : {"LogKelvo.mdb", "DbsKelvo.mdb", "Kelvo.mdb"})

@@ -1,5 +1,5 @@
-// The program killed (SIGKILL) at random moments of logging: every QSO whose screen had cleared is in the log once, with
-// its columns, and the log is whole.
+// The program killed (SIGKILL) at random moments of logging: every QSO whose screen had cleared is in the log once,
+// with its columns, and the log is whole.
 #include <gtest/gtest.h>
 #include <poll.h>
 #include <signal.h>
@@ -49,7 +49,7 @@ std::string scriptOf(int run)
 
 /// A child process whose output is read line by line.
 class Child {
-   public:
+ public:
     Child(const fs::path& program, const std::vector<std::string>& arguments)
     {
         std::array<int, 2> ends{};
@@ -104,7 +104,7 @@ class Child {
 
     const std::string& output() const { return all_; }
 
-   private:
+ private:
     bool read(steady_clock::time_point deadline)
     {
         int wait = -1;
@@ -209,7 +209,8 @@ TEST(Kill, LosesNoQsoWhoseScreenHadCleared)
         }
         const std::size_t added = rows.size() - rowsBefore;
         ASSERT_GE(added, static_cast<std::size_t>(acknowledged));
-        ASSERT_LE(added, static_cast<std::size_t>(acknowledged) + 1) << "only the QSO in hand may be there without word";
+        ASSERT_LE(added, static_cast<std::size_t>(acknowledged) + 1)
+            << "only the QSO in hand may be there without word";
         rowsBefore = rows.size();
     }
     EXPECT_GT(inTheMiddle, kills * 9 / 10) << "the kills came after the logging and tested nothing";

@@ -11,7 +11,7 @@ using base::RuntimeError;
 
 /// Collects the errors that traps swallowed without expecting them.
 class Traps : public testing::Test {
-   protected:
+ protected:
     Traps()
     {
         base::setSwallowedErrorSink([this](const RuntimeError& error) { told.push_back(error.number()); });

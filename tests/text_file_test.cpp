@@ -26,7 +26,7 @@ int errorOf(Work&& work)
 }
 
 class TextFile : public testing::Test {
-   protected:
+ protected:
     std::string path(const std::string& designName) const { return platform::pathText(folder.path()) + designName; }
     std::string bytesOf(const std::string& name) const
     {
@@ -49,8 +49,9 @@ TEST_F(TextFile, IsFoundWhateverItsCase)
 TEST_F(TextFile, IsWrittenInTheCodePageAndComesBack)
 {
     platform::writeTextFile(path("\\Set.dat"), "Țara\r\n");
-    EXPECT_EQ(bytesOf("Set.dat"), "\xDE"
-                                  "ara\r\n");
+    EXPECT_EQ(bytesOf("Set.dat"),
+              "\xDE"
+              "ara\r\n");
     EXPECT_EQ(platform::readTextFile(path("\\set.DAT")), "Ţara\r\n");
     EXPECT_FALSE(fs::exists(folder.path() / "Set.dat.new"));
 }

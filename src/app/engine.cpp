@@ -53,11 +53,16 @@ char32_t characterOf(const Key& key)
 {
     if (key.ctrl || key.alt) return 0;
     switch (key.code) {
-        case platform::keyBackspace: return platform::charBackspace;
-        case platform::keyTab: return platform::charTab;
-        case platform::keyEnter: return platform::charEnter;
-        case platform::keyEscape: return platform::charEscape;
-        default: return key.character;
+        case platform::keyBackspace:
+            return platform::charBackspace;
+        case platform::keyTab:
+            return platform::charTab;
+        case platform::keyEnter:
+            return platform::charEnter;
+        case platform::keyEscape:
+            return platform::charEscape;
+        default:
+            return key.character;
     }
 }
 
@@ -98,9 +103,9 @@ void choose(Control& control)
 Control* nextStop(const screen::Form& form, const Control* from, bool backwards)
 {
     std::vector<Control*> stops;
-    std::copy_if(form.controls().begin(), form.controls().end(), std::back_inserter(stops), [&](const Control* control) {
-        return control == from || (control->TabStop && control->canTakeFocus());
-    });
+    std::copy_if(
+        form.controls().begin(), form.controls().end(), std::back_inserter(stops),
+        [&](const Control* control) { return control == from || (control->TabStop && control->canTakeFocus()); });
     if (backwards) std::reverse(stops.begin(), stops.end());
     auto at = std::find(stops.begin(), stops.end(), from);
     if (at != stops.end()) {
@@ -126,8 +131,8 @@ Control* neighbourOption(const Control& option, bool backwards)
 /// What a key does to a button, an option, a check box or a list that has the focus.
 void operate(Control& control, const Key& key)
 {
-    const bool presses = key.code == platform::keySpace ||
-                         (key.code == platform::keyEnter && control.kind == Kind::commandButton);
+    const bool presses =
+        key.code == platform::keySpace || (key.code == platform::keyEnter && control.kind == Kind::commandButton);
     if (presses && control.kind != Kind::listBox) return choose(control);
     const bool backwards = key.code == platform::keyUp || key.code == platform::keyLeft;
     const bool forwards = key.code == platform::keyDown || key.code == platform::keyRight;

@@ -1,4 +1,5 @@
-// The event engine: takes one entry of the queue after the other, finds the field that it is for, and runs its handlers.
+// The event engine: takes one entry of the queue after the other, finds the field that it is for, and runs its
+// handlers.
 //
 // The order of the three events of a key, when a field gets its GotFocus, what a key does that repeats by itself or
 // overlaps the next one: all that is decided here, the same for every face of the program.
@@ -17,7 +18,7 @@
 namespace app {
 
 class Engine {
-   public:
+ public:
     /// `forms` are the forms whose timers tick. Both sources outlive the engine; `sink` may be nullptr.
     Engine(std::vector<screen::Form*> forms, EntrySource& source, PictureSink* sink);
 
@@ -40,7 +41,7 @@ class Engine {
     /// Makes a picture of the form on the screen and hands it to the sink.
     void publish();
 
-   private:
+ private:
     /// The field that a key goes to, if there is one. A form that is loaded again has other fields at the same place.
     struct Addressee {
         screen::Control* field = nullptr;

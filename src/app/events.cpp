@@ -114,8 +114,8 @@ void wireFields()
     FrmQSO.TxtDate.DblClick = entry::TxtDate_DblClick;
     FrmQSO.TxtDate.KeyDown = entry::TxtDate_KeyDown;
     FrmQSO.TxtDate.KeyPress = entry::TxtDate_KeyPress;
-    for (screen::TextBox* box : {&FrmQSO.TxtFGHz, &FrmQSO.txtPauseCW, &FrmQSO.TxtPauseSSB, &FrmQSO.TxtPauseFm,
-                                 &FrmQSO.TxtCwCurent})
+    for (screen::TextBox* box :
+         {&FrmQSO.TxtFGHz, &FrmQSO.txtPauseCW, &FrmQSO.TxtPauseSSB, &FrmQSO.TxtPauseFm, &FrmQSO.TxtCwCurent})
         box->KeyDown = entry::swallowF1;
 }
 

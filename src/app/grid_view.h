@@ -11,7 +11,7 @@ namespace app {
 
 /// The rows in view of every grid, fetched as they are needed and kept until the record set or its position changes.
 class GridViews {
-   public:
+ public:
     /// What is to be seen of a grid. A record set that was never opened gives an empty one.
     std::shared_ptr<const GridPicture> pictureOf(const screen::Grid& grid);
 
@@ -21,7 +21,7 @@ class GridViews {
     /// Forgets everything: a new program run.
     void clear() { views_.clear(); }
 
-   private:
+ private:
     struct View {
         std::uint64_t generation = 0;
         std::int64_t currentKey = 0;

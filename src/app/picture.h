@@ -39,12 +39,12 @@ struct ControlPicture {
     bool bold = false;
     bool enabled = true;
     bool hasFocus = false;
-    bool checked = false;       ///< option chosen, box checked
+    bool checked = false;  ///< option chosen, box checked
     bool rightAligned = false;
     bool inputMethod = true;
-    std::size_t selStart = 0;   ///< characters
+    std::size_t selStart = 0;  ///< characters
     std::size_t selLength = 0;
-    std::size_t caret = 0;      ///< the end of the selection that moves
+    std::size_t caret = 0;           ///< the end of the selection that moves
     std::vector<std::string> items;  ///< of a list
     int listIndex = -1;
     std::shared_ptr<const GridPicture> grid;
@@ -76,7 +76,7 @@ struct Picture {
 
 /// Takes the newest picture.
 class PictureSink {
-   public:
+ public:
     virtual ~PictureSink() = default;
     virtual void publish(std::shared_ptr<const Picture> picture) = 0;
 };

@@ -25,9 +25,12 @@ bool isDrawn(const Control& control)
     switch (control.kind) {
         case Kind::timer:
         case Kind::data:
-        case Kind::menuEntry: return false;
-        case Kind::textBox: return control.seen() && !static_cast<const screen::TextBox&>(control).parking;
-        default: return control.seen();
+        case Kind::menuEntry:
+            return false;
+        case Kind::textBox:
+            return control.seen() && !static_cast<const screen::TextBox&>(control).parking;
+        default:
+            return control.seen();
     }
 }
 
@@ -43,9 +46,15 @@ void addPropertiesOfKind(ControlPicture& picture, const Control& control, GridVi
             picture.inputMethod = box.inputMethod;
             break;
         }
-        case Kind::label: picture.rightAligned = static_cast<const screen::Label&>(control).rightAligned; break;
-        case Kind::optionButton: picture.checked = static_cast<const screen::OptionButton&>(control).Value; break;
-        case Kind::checkBox: picture.checked = static_cast<const screen::CheckBox&>(control).Value != 0; break;
+        case Kind::label:
+            picture.rightAligned = static_cast<const screen::Label&>(control).rightAligned;
+            break;
+        case Kind::optionButton:
+            picture.checked = static_cast<const screen::OptionButton&>(control).Value;
+            break;
+        case Kind::checkBox:
+            picture.checked = static_cast<const screen::CheckBox&>(control).Value != 0;
+            break;
         case Kind::listBox: {
             const auto& list = static_cast<const screen::ListBox&>(control);
             picture.items = list.items;
@@ -60,8 +69,11 @@ void addPropertiesOfKind(ControlPicture& picture, const Control& control, GridVi
             picture.Y2 = line.Y2;
             break;
         }
-        case Kind::grid: picture.grid = gridViews.pictureOf(static_cast<const screen::Grid&>(control)); break;
-        default: break;
+        case Kind::grid:
+            picture.grid = gridViews.pictureOf(static_cast<const screen::Grid&>(control));
+            break;
+        default:
+            break;
     }
 }
 

@@ -14,7 +14,7 @@ namespace app {
 std::vector<screen::Form*> forms();
 
 class Program {
-   public:
+ public:
     /// Makes the run state and the forms fresh and stands them on `machine`. One program at a time.
     /// `source` gives the entries that are served inside handlers; `sink` may be nullptr.
     Program(platform::Machine& machine, EntrySource& source, PictureSink* sink);
@@ -43,7 +43,7 @@ class Program {
     /// False before start() and after the program has ended.
     bool running() const { return running_; }
 
-   private:
+ private:
     template <typename Work>
     void untilEnd(Work&& work);
 

@@ -80,13 +80,13 @@ struct BoxAnswered {
 /// Something the window wants redrawn: nothing happens but a new picture.
 struct PictureAsked {};
 
-using QueueEntry = std::variant<KeyWentDown, KeyWentUp, TextPasted, ControlClicked, ControlDoubleClicked, FocusAsked,
-                                CaretPlaced, ListItemPicked, RowPicked, GridScrolled, CloseAsked, BoxAnswered,
-                                PictureAsked>;
+using QueueEntry =
+    std::variant<KeyWentDown, KeyWentUp, TextPasted, ControlClicked, ControlDoubleClicked, FocusAsked, CaretPlaced,
+                 ListItemPicked, RowPicked, GridScrolled, CloseAsked, BoxAnswered, PictureAsked>;
 
 /// Where the program thread takes its entries from.
 class EntrySource {
-   public:
+ public:
     virtual ~EntrySource() = default;
     /// The next entry if one waits.
     virtual std::optional<QueueEntry> poll() = 0;

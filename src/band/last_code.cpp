@@ -25,7 +25,7 @@ struct LastCodeRow {
     screen::Label screen::FrmQSOForm::*sentLabel;          ///< gets the last code sent
     std::string runstate::Modul1State::*sentVariable;      ///< gets the last code sent
     std::string runstate::Modul1State::*receivedVariable;  ///< gets the last code received
-    bool receivedInEveryContest;  ///< otherwise in the championship (contest 0) alone
+    bool receivedInEveryContest;                           ///< otherwise in the championship (contest 0) alone
 };
 
 using screen::FrmQSOForm;
@@ -34,9 +34,11 @@ using State = runstate::Modul1State;
 constexpr LastCodeRow row144{&FrmQSOForm::Uus144a, "Uus144a", &FrmQSOForm::LblCod, nullptr, nullptr, false};
 constexpr LastCodeRow row144a{&FrmQSOForm::Uus144a, "Uus144a", nullptr, &State::Start144a, &State::Start144a, false};
 constexpr LastCodeRow row144b{&FrmQSOForm::Uus144b, "Uus144b", nullptr, &State::Start144b, &State::Start144b, false};
-constexpr LastCodeRow row432a{&FrmQSOForm::Uus432a, "Uus432a", &FrmQSOForm::LblCod432, nullptr, &State::Start432a, false};
+constexpr LastCodeRow row432a{&FrmQSOForm::Uus432a, "Uus432a", &FrmQSOForm::LblCod432, nullptr,
+                              &State::Start432a,    false};
 constexpr LastCodeRow row432b{&FrmQSOForm::Uus432b, "Uus432b", nullptr, nullptr, &State::Start432b, true};
-constexpr LastCodeRow row1296a{&FrmQSOForm::Uus1296a, "Uus1296a", &FrmQSOForm::LblCod1296, nullptr, &State::Start1296a, false};
+constexpr LastCodeRow row1296a{&FrmQSOForm::Uus1296a, "Uus1296a", &FrmQSOForm::LblCod1296, nullptr,
+                               &State::Start1296a,    false};
 constexpr LastCodeRow row1296b{&FrmQSOForm::Uus1296b, "Uus1296b", nullptr, nullptr, &State::Start1296b, true};
 constexpr LastCodeRow rowGHz{&FrmQSOForm::UusGHz, "UusGHz", &FrmQSOForm::LblCodGhz, nullptr, nullptr, false};
 
@@ -129,8 +131,8 @@ void MaxConc3()
     CitStart144();
     CitStart432a();
     CitStart1296a();
-    const long greatest = std::max({value(FrmQSO.LblCod.Caption), value(FrmQSO.LblCod432.Caption),
-                                    value(FrmQSO.LblCod1296.Caption)});
+    const long greatest =
+        std::max({value(FrmQSO.LblCod.Caption), value(FrmQSO.LblCod432.Caption), value(FrmQSO.LblCod1296.Caption)});
     FrmQSO.CodMax = base::toInt16(static_cast<long long>(greatest));
     FrmQSO.LblCod.Caption = base::toText(FrmQSO.CodMax);
 }

@@ -43,9 +43,10 @@ void ScrieTabYO2()
     entry::takeExchange();
     Modul1.BandYO = base::toText(Modul1.BandCur);
     entry::shortenDate();
-    const std::array<std::string, 12> row = {
-        Modul1.IndicLog, Modul1.DateQso, Modul1.TimeQso, Modul1.SentLog, Modul1.RcvdLog, Modul1.ModeCur,
-        Modul1.BandYO,   Modul1.QraLog,  base::trim(FrmQSO.TxtYourName.Text), Modul1.PctCur, Modul1.MyQRA, Modul1.MyName};
+    const std::array<std::string, 12> row = {Modul1.IndicLog, Modul1.DateQso, Modul1.TimeQso,
+                                             Modul1.SentLog,  Modul1.RcvdLog, Modul1.ModeCur,
+                                             Modul1.BandYO,   Modul1.QraLog,  base::trim(FrmQSO.TxtYourName.Text),
+                                             Modul1.PctCur,   Modul1.MyQRA,   Modul1.MyName};
     Modul1.DbLog.Execute(storage::insertMaratonQso(row));
     ViewLogGen();
     const double total = base::numericValue(FrmQSO.LblPkt.Caption) + base::numericValue(Modul1.PctCur);
@@ -59,8 +60,8 @@ void IndicInfoDublYO2()
     base::quietly<base::noCurrentRecord>([] {
         Modul1.Indic = base::trim(base::upper(Modul1.Indic));
         if (Modul1.Indic.empty()) return;
-        ask("SELECT * FROM UusLGYO2 WHERE Callsign='" + Modul1.Indic + "' and Bnd='" + Modul1.BandYO +
-            "' and Data='" + Modul1.DateQso + "'; ");
+        ask("SELECT * FROM UusLGYO2 WHERE Callsign='" + Modul1.Indic + "' and Bnd='" + Modul1.BandYO + "' and Data='" +
+            Modul1.DateQso + "'; ");
         if (!FrmQSO.UusLGYO2.Recordset.IsEof()) return entry::Rosu();
         entry::Verde();
         learnName();

@@ -29,10 +29,14 @@ struct ScoreRow {
 ScoreRow scoreRow(int number)
 {
     switch (number) {
-        case 0: return {FrmQSO.LblBand, FrmQSO.LblPkt, FrmQSO.LblQSO};
-        case 1: return {FrmQSO.LblBand1, FrmQSO.LblPkt1, FrmQSO.LblQSO1};
-        case 2: return {FrmQSO.LblBand2, FrmQSO.LblPkt2, FrmQSO.LblQSO2};
-        default: return {FrmQSO.LblBand3, FrmQSO.LblPkt3, FrmQSO.LblQSO3};
+        case 0:
+            return {FrmQSO.LblBand, FrmQSO.LblPkt, FrmQSO.LblQSO};
+        case 1:
+            return {FrmQSO.LblBand1, FrmQSO.LblPkt1, FrmQSO.LblQSO1};
+        case 2:
+            return {FrmQSO.LblBand2, FrmQSO.LblPkt2, FrmQSO.LblQSO2};
+        default:
+            return {FrmQSO.LblBand3, FrmQSO.LblPkt3, FrmQSO.LblQSO3};
     }
 }
 
@@ -203,8 +207,8 @@ void stageBOn1296()
     if (Modul1.ConcId == 0) fillRow(1, "1296A", 1296, "A");
 }
 
-/// "Mixt" is not among the modes that take the prompt away here. It stays in sight while a microwave band is still to be
-/// picked, and in the international contest on 144 whatever the mode.
+/// "Mixt" is not among the modes that take the prompt away here. It stays in sight while a microwave band is still to
+/// be picked, and in the international contest on 144 whatever the mode.
 void openEntryIfModeIsChosen()
 {
     if (Modul1.ModeCur != "SSB" && Modul1.ModeCur != "CW" && Modul1.ModeCur != "Fm") return;
@@ -255,10 +259,17 @@ void EB()
     openEntryIfModeIsChosen();
     const std::int32_t band = Modul1.BandCur;
     switch (band) {
-        case 144: stageBOn144(); break;
-        case 432: stageBOn432(); break;
-        case 1296: stageBOn1296(); break;
-        default: break;
+        case 144:
+            stageBOn144();
+            break;
+        case 432:
+            stageBOn432();
+            break;
+        case 1296:
+            stageBOn1296();
+            break;
+        default:
+            break;
     }
     showLog(band);
     finishStage();

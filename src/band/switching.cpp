@@ -67,8 +67,8 @@ void takeOnlyStage()
 /// What follows the choice of a mode.
 struct ModeRow {
     const char* name;
-    const char* report;  ///< nullptr leaves the report
-    bool reopensWithBand;  ///< contests 2, 5, 7, 8 and 100 open the entry with a band alone
+    const char* report;          ///< nullptr leaves the report
+    bool reopensWithBand;        ///< contests 2, 5, 7, 8 and 100 open the entry with a band alone
     bool promptGoesWithoutBand;  ///< contest 8 does without the band
 };
 
@@ -87,8 +87,7 @@ void showSendingFrames()
     FrmQSO.txtPauseCW.Visible = cw && keys && live && Modul1.CwRptFlag == 100;
     FrmQSO.TxtPauseSSB.Visible = Modul1.ModeCur == "SSB" && live && Modul1.SsbRptFlag == 100;
     FrmQSO.TxtPauseFm.Visible = Modul1.ModeCur == "Fm" && live && Modul1.SsbRptFlag == 100;
-    FrmQSO.LblPause.Visible =
-        FrmQSO.txtPauseCW.Visible || FrmQSO.TxtPauseSSB.Visible || FrmQSO.TxtPauseFm.Visible;
+    FrmQSO.LblPause.Visible = FrmQSO.txtPauseCW.Visible || FrmQSO.TxtPauseSSB.Visible || FrmQSO.TxtPauseFm.Visible;
 }
 
 void takePromptAway(const ModeRow& mode)

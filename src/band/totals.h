@@ -3,7 +3,8 @@
 
 namespace band {
 
-/// Sum the table of the band for the stage in hand. Each sets `BandCur` to its band; a caller that needs it restores it.
+/// Sum the table of the band for the stage in hand. Each sets `BandCur` to its band; a caller that needs it restores
+/// it.
 void Summe144();
 void Summe432();
 void Summe1296();

@@ -29,6 +29,8 @@ ResumeNext::ResumeNext()
 {
 }
 
-ResumeNext::ResumeNext(OnError onError) : onError_(std::move(onError)) {}
+ResumeNext::ResumeNext(OnError onError) : onError_(std::move(onError))
+{
+}
 
 }  // namespace base

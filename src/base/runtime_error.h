@@ -33,12 +33,12 @@ enum ErrorNumber : int {
 
 /// A failed operation: its number for the traps, and a sentence for the operator.
 class RuntimeError : public std::runtime_error {
-   public:
+ public:
     RuntimeError(int number, const std::string& why) : std::runtime_error(why), number_(number) {}
 
     int number() const { return number_; }
 
-   private:
+ private:
     int number_;
 };
 
@@ -86,7 +86,7 @@ int quietly(Body&& body)
 ///     go([&] { second(); });
 ///     if (go.last() == existsOrNoAccess) ...
 class ResumeNext {
-   public:
+ public:
     using OnError = std::function<void(const RuntimeError&)>;
 
     /// Errors go to the receiver of swallowed errors, but for 3021, which every procedure of this kind expects.
@@ -112,7 +112,7 @@ class ResumeNext {
     /// Number of the last error since this object was made, 0 if there was none.
     int last() const { return last_; }
 
-   private:
+ private:
     OnError onError_;
     int last_ = 0;
 };

@@ -44,12 +44,15 @@ char32_t decode(std::string_view sequence)
 {
     const auto byte = [&](std::size_t i) { return static_cast<char32_t>(static_cast<unsigned char>(sequence[i])); };
     switch (sequence.size()) {
-        case 2: return ((byte(0) & 0x1FU) << 6U) | (byte(1) & 0x3FU);
-        case 3: return ((byte(0) & 0x0FU) << 12U) | ((byte(1) & 0x3FU) << 6U) | (byte(2) & 0x3FU);
+        case 2:
+            return ((byte(0) & 0x1FU) << 6U) | (byte(1) & 0x3FU);
+        case 3:
+            return ((byte(0) & 0x0FU) << 12U) | ((byte(1) & 0x3FU) << 6U) | (byte(2) & 0x3FU);
         case 4:
             return ((byte(0) & 0x07U) << 18U) | ((byte(1) & 0x3FU) << 12U) | ((byte(2) & 0x3FU) << 6U) |
                    (byte(3) & 0x3FU);
-        default: return byte(0);
+        default:
+            return byte(0);
     }
 }
 
@@ -91,11 +94,16 @@ constexpr std::array<char32_t, 128> windows1250 = {
 constexpr char32_t withCedilla(char32_t character)
 {
     switch (character) {
-        case 0x0218: return 0x015E;
-        case 0x0219: return 0x015F;
-        case 0x021A: return 0x0162;
-        case 0x021B: return 0x0163;
-        default: return character;
+        case 0x0218:
+            return 0x015E;
+        case 0x0219:
+            return 0x015F;
+        case 0x021A:
+            return 0x0162;
+        case 0x021B:
+            return 0x0163;
+        default:
+            return character;
     }
 }
 
@@ -149,9 +157,11 @@ char32_t upper(char32_t character)
     const bool latin1 = character >= 0xE0 && character <= 0xFE && character != 0xF7;
     if (latin1) return character - 32;
     // In Latin Extended-A most capitals are even and are followed by their small letter; in two stretches they are odd.
-    const bool oddCapitals = (character >= 0x0139 && character <= 0x0148) || (character >= 0x0179 && character <= 0x017E);
+    const bool oddCapitals =
+        (character >= 0x0139 && character <= 0x0148) || (character >= 0x0179 && character <= 0x017E);
     if (oddCapitals) return (character % 2 == 0) ? character - 1 : character;
-    const bool evenCapitals = (character >= 0x0100 && character <= 0x0137) || (character >= 0x014A && character <= 0x0177) ||
+    const bool evenCapitals = (character >= 0x0100 && character <= 0x0137) ||
+                              (character >= 0x014A && character <= 0x0177) ||
                               (character >= 0x0218 && character <= 0x021B);
     const bool withoutCapital = character == 0x0131;
     if (evenCapitals && !withoutCapital) return (character % 2 == 1) ? character - 1 : character;
@@ -182,8 +192,7 @@ std::string blanks(std::size_t count)
 char32_t characterAt(std::string_view text, std::size_t position)
 {
     const std::string character = mid(text, position, 1);
-    if (character.empty())
-        throw RuntimeError(invalidArgument, "The text has no character " + std::to_string(position));
+    if (character.empty()) throw RuntimeError(invalidArgument, "The text has no character " + std::to_string(position));
     return decode(character);
 }
 

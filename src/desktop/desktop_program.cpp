@@ -72,11 +72,13 @@ bool DesktopProgram::waitUntilIdle(std::chrono::milliseconds limit)
 {
     const QDeadlineTimer deadline(limit);
     constexpr int turnMilliseconds = 5;
+    // Showing a picture leaves work for the next turn, as laying out the menu bar: so two quiet turns.
+    int quietTurns = 0;
     do {
         QCoreApplication::processEvents(QEventLoop::AllEvents, turnMilliseconds);
-        if (settled()) return true;
-    } while (!deadline.hasExpired());
-    return false;
+        quietTurns = settled() ? quietTurns + 1 : 0;
+    } while (quietTurns < 2 && !deadline.hasExpired());
+    return quietTurns == 2;
 }
 
 }  // namespace desktop

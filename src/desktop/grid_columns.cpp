@@ -61,6 +61,7 @@ GridColumns layOutColumns(const app::ControlPicture& grid, const FormScale& scal
 {
     const std::vector<std::size_t> seen = columnsInSight(*grid.grid);
     std::vector<double> widths;
+    widths.reserve(seen.size());
     for (std::size_t column : seen)
         widths.push_back(scale.x(grid.grid->columnWidths[column]));
 

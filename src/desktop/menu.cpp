@@ -29,6 +29,7 @@ void fillMenuBar(QMenuBar& bar, const std::vector<app::MenuPicture>& menu, const
 {
     bar.clear();
     qDeleteAll(bar.findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly));
+    qDeleteAll(bar.findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly));
     std::vector<QMenu*> opened(menu.size(), nullptr);
     for (std::size_t i = 0; i < menu.size(); ++i) {
         const app::MenuPicture& entry = menu[i];

@@ -94,6 +94,19 @@ void storeLastCode()
     Rap1();
 }
 
+/// Shows the written row among what the grid shows. Nothing that fails here matters any more: the row is safe.
+void showWrittenRow()
+{
+    const LogTable* table = currentLogTable();
+    if (Modul1.ConcId == maratonContest || table == nullptr) return;
+    base::quietly<base::noCurrentRecord>([&] {
+        screen::DataControl& data = FrmQSO.*table->data;
+        data.Refresh();
+        base::passing<base::noCurrentRecord>([&] { data.Recordset.MoveLast(); });
+        table->layOut();
+    });
+}
+
 /// A code received that is no number ends the procedure here, with the row written and the screen as it is: the
 /// operator sees the code that he has to look at.
 void takeReceivedNumber()
@@ -101,6 +114,7 @@ void takeReceivedNumber()
     try {
         Modul1.SerNr = base::toInt16(Modul1.RstRcvd2);
     } catch (const base::RuntimeError& error) {
+        showWrittenRow();
         throw base::RuntimeError(error.number(), "The QSO is logged. The code received, \"" + Modul1.RstRcvd2 +
                                                      "\", is no number: leave with Esc, Enter would log it again");
     }
@@ -115,6 +129,7 @@ void keepHourOfPaperLog()
     FrmQSO.TxtUTC.Text = Modul1.TimeOff;
 }
 
+/// The whole log comes back into view, with the QSO at its end. A failure here may not keep the screen from clearing.
 void showLogAfterQso()
 {
     if (Modul1.ConcId == maratonContest) return;
@@ -143,18 +158,6 @@ void addToTotal(const LogTable& table)
     FrmQSO.LblPkt.Caption = base::toText(total - (replacesEarlier ? std::lround(points) : 0));
 }
 
-/// What is shown after the row is safe. Nothing that fails here may keep the screen from clearing, or the operator
-/// would log the line again.
-void showWrittenRow(const LogTable& table)
-{
-    base::quietly<base::noCurrentRecord>([&] {
-        screen::DataControl& data = FrmQSO.*table.data;
-        data.Refresh();
-        base::passing<base::noCurrentRecord>([&] { data.Recordset.MoveLast(); });
-        table.layOut();
-    });
-}
-
 /// Writes the QSO to the table of the band for the stage in hand.
 void writeQso(std::int32_t band)
 {
@@ -163,11 +166,10 @@ void writeQso(std::int32_t band)
     const LogTable* table = logTableFor(band, Modul1.Etapa);
     if (table == nullptr)
         throw base::RuntimeError(base::invalidArgument, "The stage is missing, choose A or B: nothing was logged");
-    const std::array<std::string, 9> row = {Modul1.IndicLog, Modul1.DateQso, Modul1.TimeQso,
-                                            Modul1.SentLog,  Modul1.RcvdLog, Modul1.ModeCur,
-                                            frequencyText(*table), Modul1.QraLog, Modul1.PctCur};
+    const std::array<std::string, 9> row = {Modul1.IndicLog,       Modul1.DateQso, Modul1.TimeQso,
+                                            Modul1.SentLog,        Modul1.RcvdLog, Modul1.ModeCur,
+                                            frequencyText(*table), Modul1.QraLog,  Modul1.PctCur};
     Modul1.DbLog.Execute(storage::insertQso(table->name, row));
-    showWrittenRow(*table);
     addToTotal(*table);
 }
 
@@ -234,9 +236,12 @@ void ScrieTab()
     }
     if (Modul1.ConcId == maratonContest) return band::ScrieTabYO2();
     switch (Modul1.BandCur) {
-        case 144: return ScrieTab144();
-        case 432: return ScrieTab432();
-        case 1296: return ScrieTab1296();
+        case 144:
+            return ScrieTab144();
+        case 432:
+            return ScrieTab432();
+        case 1296:
+            return ScrieTab1296();
         default:
             if (Modul1.BandCur > highestNamedBand) ScrieTabGHz();
     }

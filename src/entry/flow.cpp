@@ -170,14 +170,21 @@ void pressedInCall(int keyCode)
         case platform::keyInsert:
             if (FrmQSO.CmdEnterCall.Enabled) Enter();
             break;
-        case platform::keyEscape: abortOnEscape(keyCode); break;
-        case platform::keyF8: emptyAndFocus(FrmQSO.TxtRSTR2); break;
+        case platform::keyEscape:
+            abortOnEscape(keyCode);
+            break;
+        case platform::keyF8:
+            emptyAndFocus(FrmQSO.TxtRSTR2);
+            break;
         case platform::keyF9:
             emptyAndFocus(FrmQSO.TxtRSTr3);
             presetRomanianField();
             break;
-        case platform::keyF11: emptyAndFocus(FrmQSO.txtRSTE2); break;
-        default: break;
+        case platform::keyF11:
+            emptyAndFocus(FrmQSO.txtRSTE2);
+            break;
+        default:
+            break;
     }
 }
 
@@ -234,11 +241,20 @@ void Init()
          {&FrmQSO.Lbl144, &FrmQSO.Lbl432, &FrmQSO.Lbl1296, &FrmQSO.LblGHz, &FrmQSO.LblA, &FrmQSO.LblB})
         lamp->BackColor = screen::lampOff;
     switch (Modul1.BandCur) {
-        case 144: FrmQSO.Lbl144.BackColor = screen::lampOn; break;
-        case 432: FrmQSO.Lbl432.BackColor = screen::lampOn; break;
-        case 1296: FrmQSO.Lbl1296.BackColor = screen::lampOn; break;
-        case bandGHz: FrmQSO.LblGHz.BackColor = screen::lampOn; break;
-        default: break;
+        case 144:
+            FrmQSO.Lbl144.BackColor = screen::lampOn;
+            break;
+        case 432:
+            FrmQSO.Lbl432.BackColor = screen::lampOn;
+            break;
+        case 1296:
+            FrmQSO.Lbl1296.BackColor = screen::lampOn;
+            break;
+        case bandGHz:
+            FrmQSO.LblGHz.BackColor = screen::lampOn;
+            break;
+        default:
+            break;
     }
     for (screen::Grid* grid : {&FrmQSO.DBGrid1, &FrmQSO.DBGrid2, &FrmQSO.DBGrid3, &FrmQSO.DBGrid4, &FrmQSO.DBGrid5,
                                &FrmQSO.DBGrid6, &FrmQSO.DBGrid7, &FrmQSO.DBGrid8, &FrmQSO.DBGrid9})

@@ -31,7 +31,8 @@ struct LogTable {
 /// All seven.
 std::span<const LogTable> logTables();
 
-/// Table of a band and stage; every microwave band, and 1, is the GHz log whatever the stage. nullptr when there is none.
+/// Table of a band and stage; every microwave band, and 1, is the GHz log whatever the stage. nullptr when there is
+/// none.
 const LogTable* logTableFor(std::int32_t band, std::string_view stage);
 
 /// Table of the band and stage in hand. Not for the Maraton contest, which has one log for all bands.

@@ -19,8 +19,8 @@ void ElimSp1();
 /// A call with a doubled prefix repaired: "YO" + what stands behind the first four characters of "YOYO...".
 std::string withoutDoubledPrefix(std::string_view call);
 
-/// What the sweep makes of a call: `typed` as it stood in the field, `trimmed` without its outer blanks. A call of ten or
-/// more characters gets its characters 10 to 15 once more behind it, without blanks.
+/// What the sweep makes of a call: `typed` as it stood in the field, `trimmed` without its outer blanks. A call of ten
+/// or more characters gets its characters 10 to 15 once more behind it, without blanks.
 std::string sweptCall(std::string_view typed, std::string_view trimmed);
 
 /// The first `width` characters of the trimmed text, without the blanks among them.

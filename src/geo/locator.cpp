@@ -122,8 +122,8 @@ std::optional<Refusal> distanceAndHeading()
 
 Position positionOf(std::string_view locator)
 {
-    const double longitude = (letterOr(locator, 1, 'J') - 'J') * 20 + 2 * digitOrZero(locator, 3) +
-                             (letterOr(locator, 5, 'M') - 'A') / 12;
+    const double longitude =
+        (letterOr(locator, 1, 'J') - 'J') * 20 + 2 * digitOrZero(locator, 3) + (letterOr(locator, 5, 'M') - 'A') / 12;
     const double latitude =
         (letterOr(locator, 2, 'J') - 'J') * 10 + digitOrZero(locator, 4) + (letterOr(locator, 6, 'M') - 'A') / 24;
     return {longitude * degree, latitude * degree};

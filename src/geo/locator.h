@@ -15,9 +15,9 @@ struct Position {
     double latitude = 0;
 };
 
-/// Position of a Maidenhead locator (IARU Region 1, 1980): the south-west corner of a subsquare; a missing fifth or sixth
-/// letter counts as "M", a missing first or second as "J", a missing digit as 0. Nothing is checked: a wrong character
-/// gives a wrong position.
+/// Position of a Maidenhead locator (IARU Region 1, 1980): the south-west corner of a subsquare; a missing fifth or
+/// sixth letter counts as "M", a missing first or second as "J", a missing digit as 0. Nothing is checked: a wrong
+/// character gives a wrong position.
 Position positionOf(std::string_view locator);
 
 /// Cosine of the central angle between two positions, exactly 1 for equal ones.

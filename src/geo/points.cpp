@@ -50,7 +50,8 @@ struct MultiplierRow {
 
 /// The summary is made for 432 alone, so the rows of 1296 are never reached.
 constexpr MultiplierRow multiplierRows[] = {
-    {0, 432, 5}, {0, 1296, 3}, {3, 432, 5}, {100, 432, 5}, {3, 1296, 10}, {100, 1296, 10}, {5, 432, 2}, {5, 1296, 4}, {7, 432, 2},
+    {0, 432, 5},     {0, 1296, 3}, {3, 432, 5},  {100, 432, 5}, {3, 1296, 10},
+    {100, 1296, 10}, {5, 432, 2},  {5, 1296, 4}, {7, 432, 2},
 };
 
 /// Contests whose rule does not name its bands give the distance on whatever band.

@@ -9,7 +9,8 @@
 
 namespace platform {
 
-/// `local` minus `hours` (decimal hours), in whole seconds. Error 6 when the result is not within the years 100 to 9999.
+/// `local` minus `hours` (decimal hours), in whole seconds. Error 6 when the result is not within the years 100 to
+/// 9999.
 LocalTime minusHours(LocalTime local, double hours);
 
 /// Text form "dd.mm.yy".

@@ -23,7 +23,8 @@ fs::path entryIgnoringCase(const fs::path& folder, const fs::path& name)
 {
     std::error_code ignored;
     for (fs::directory_iterator entry(folder, ignored), end; !ignored && entry != end; entry.increment(ignored))
-        if (base::equalIgnoringCase(pathText(entry->path().filename()), pathText(name))) return entry->path().filename();
+        if (base::equalIgnoringCase(pathText(entry->path().filename()), pathText(name)))
+            return entry->path().filename();
     return name;
 }
 

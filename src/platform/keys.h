@@ -38,8 +38,8 @@ enum KeyCharacter : char32_t { charBackspace = 8, charTab = 9, charEnter = 13, c
 
 /// One key of the keyboard, as it went down or up.
 struct Key {
-    int code = keyNone;       ///< virtual key code; 0 for a character that has none
-    char32_t character = 0;   ///< what it types, with Shift applied; 0 when it types nothing
+    int code = keyNone;      ///< virtual key code; 0 for a character that has none
+    char32_t character = 0;  ///< what it types, with Shift applied; 0 when it types nothing
     bool shift = false;
     bool ctrl = false;
     bool alt = false;

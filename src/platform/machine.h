@@ -18,22 +18,22 @@ using MonotonicTime = std::chrono::nanoseconds;
 struct MessageBoxRequest {
     std::string text;
     std::string title;
-    int style = 0;  ///< sum of a button code (0 OK, 1 OK and Cancel, 4 Yes and No), an icon code (16, 32, 48, 64) and 256
-                    ///< when the second button is the default
+    int style = 0;  ///< sum of a button code (0 OK, 1 OK and Cancel, 4 Yes and No), an icon code (16, 32, 48, 64) and
+                    ///< 256 when the second button is the default
 };
 
 /// Answers of message boxes.
 enum Button : int { buttonOk = 1, buttonCancel = 2, buttonYes = 6, buttonNo = 7 };
 
 class MessageBoxes {
-   public:
+ public:
     virtual ~MessageBoxes() = default;
     /// Shows the box and waits for the answer.
     virtual Button show(const MessageBoxRequest& request) = 0;
 };
 
 class Notices {
-   public:
+ public:
     virtual ~Notices() = default;
     /// Tells the operator something in a quiet line, without stopping anything.
     virtual void notice(const std::string& text) = 0;
@@ -42,7 +42,7 @@ class Notices {
 };
 
 class Clock {
-   public:
+ public:
     virtual ~Clock() = default;
     /// The present local date and time.
     virtual LocalTime now() const = 0;
@@ -55,7 +55,7 @@ class Clock {
 enum class PolledKey { end, escape };
 
 class KeyState {
-   public:
+ public:
     virtual ~KeyState() = default;
     /// True when the key is down now, or has gone down since the last look.
     virtual bool pressed(PolledKey key) = 0;
@@ -64,21 +64,21 @@ class KeyState {
 };
 
 class Clipboard {
-   public:
+ public:
     virtual ~Clipboard() = default;
     virtual std::string text() const = 0;
     virtual void setText(const std::string& text) = 0;
 };
 
 class Sound {
-   public:
+ public:
     virtual ~Sound() = default;
     /// Number of devices that can play sound.
     virtual int outputDevices() const = 0;
 };
 
 class HelpViewer {
-   public:
+ public:
     virtual ~HelpViewer() = default;
     /// Opens the help file of the program at a context number.
     virtual void open(int context) = 0;
@@ -90,13 +90,13 @@ struct ScreenSize {
 };
 
 class Screen {
-   public:
+ public:
     virtual ~Screen() = default;
     virtual ScreenSize size() const = 0;
 };
 
 class Installation {
-   public:
+ public:
     virtual ~Installation() = default;
     /// Folder of the program, with its databases and set-up files, without a separator at its end.
     virtual std::string programFolder() const = 0;

@@ -30,24 +30,31 @@ constexpr double fourRows = 2215;
 // The entry form by contest.
 //
 //                          upper  144    GHz    lamp   band   stage  stages mixed
-//                          bands  on            144    fixed  fixed                  prompt         height     3rd    4th    one
+//                          bands  on            144    fixed  fixed                  prompt         height     3rd 4th
+//                          one
 constexpr EntryPage twoStages{leave, leave, leave, leave, false, false, yes, leave, pickBand, 0, false, false, false};
 constexpr EntryPage carpati{no, no, leave, yes, true, false, yes, yes, pickStage, 0, false, false, false};
 constexpr EntryPage telecom{no, no, leave, yes, true, false, yes, no, pickStage, 0, false, false, false};
 constexpr EntryPage onePass{leave, leave, leave, leave, false, false, no, no, pickBand, threeRows, true, false, false};
 constexpr EntryPage oneBand{no, no, leave, yes, true, true, no, no, "SELECT MOD ", 0, false, false, true};
 constexpr EntryPage sixMetres{no, no, leave, yes, true, true, no, yes, "SELECT MOD ", 0, false, false, true};
-constexpr EntryPage marathon{yes, leave, leave, leave, false, false, leave, leave, nullptr, threeRows, true, false, false};
+constexpr EntryPage marathon{yes,   leave,   leave,     leave, false, false, leave,
+                             leave, nullptr, threeRows, true,  false, false};
 constexpr EntryPage summerDay{yes, yes, no, yes, false, false, no, yes, pickBand, threeRows, true, false, false};
 constexpr EntryPage international{yes, yes, yes, yes, false, false, no, yes, pickBand, fourRows, true, true, false};
 
 // The same when the form is loaded again: other prompt words, and other groups.
-constexpr EntryPage againNothing{leave, leave, leave, leave, false, false, leave, leave, nullptr, 0, false, false, false};
-constexpr EntryPage againCarpati{no, no, leave, yes, true, false, yes, yes, "SELECT MODE SI ETAPA", 0, false, false, false};
-constexpr EntryPage againTelecom{no, no, leave, yes, true, false, yes, leave, "SELECT MODE SI ETAPA", 0, false, false, false};
+constexpr EntryPage againNothing{leave, leave,   leave, leave, false, false, leave,
+                                 leave, nullptr, 0,     false, false, false};
+constexpr EntryPage againCarpati{no, no,    leave, yes,  true, false, yes, yes, "SELECT MODE SI ETAPA",
+                                 0,  false, false, false};
+constexpr EntryPage againTelecom{no, no,    leave, yes,  true, false, yes, leave, "SELECT MODE SI ETAPA",
+                                 0,  false, false, false};
 constexpr EntryPage againOneBand{no, no, leave, yes, true, false, no, leave, "SELECT MODE ", 0, false, false, true};
-constexpr EntryPage againOnePass{leave, leave, leave, leave, false, false, no, no, pickBand, threeRows, true, false, false};
-constexpr EntryPage againInternational{yes, yes, yes, leave, false, false, no, yes, pickBand, fourRows, true, true, false};
+constexpr EntryPage againOnePass{leave, leave,    leave,     leave, false, false, no,
+                                 no,    pickBand, threeRows, true,  false, false};
+constexpr EntryPage againInternational{yes, yes,      yes,      leave, false, false, no,
+                                       yes, pickBand, fourRows, true,  true,  false};
 
 constexpr Contest catalogue[] = {
     {0, &FrmInitForm::OpBCampNatUUS, "Camp. Nat. UUS", "Camp.Nat.UUS", "YOVHF/UHF", "YOVHFUHF",
@@ -58,8 +65,8 @@ constexpr Contest catalogue[] = {
      onePass, againOnePass},
     {3, &FrmInitForm::OpBFloareademina, "Floarea de mina", "Floarea de mina", "Floare", "Floare", "Floarea de mina",
      onePass, againOnePass},
-    {4, &FrmInitForm::OpbOltenia, "Oltenia 144 MHz", "Oltenia 144 MHz", "Olt144", "Oltenia", "Oltenia 144 MHz",
-     oneBand, againOneBand},
+    {4, &FrmInitForm::OpbOltenia, "Oltenia 144 MHz", "Oltenia 144 MHz", "Olt144", "Oltenia", "Oltenia 144 MHz", oneBand,
+     againOneBand},
     {5, &FrmInitForm::OpBConstrMas, "Constructor masini", "Constructor masini", "Masini", "Masini",
      "Constructor masini ", onePass, againOnePass},
     {6, &FrmInitForm::OpBTelecom, "Ziua Telecom", "Ziua Telecom", "TlcUUS", "TlcUUS", "Ziua Telecom", telecom,

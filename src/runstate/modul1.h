@@ -37,9 +37,9 @@ struct Modul1State {
     std::string MyQRA;
     std::string MyQraPrev;
     std::string MyName;
-    std::string TimeDiff;          ///< local time minus UTC in hours, as typed
-    std::int16_t SerNr = 0;        ///< start serial; after a QSO the code received
-    std::int16_t SerNrStart = 0;   ///< start serial for the rules of stages
+    std::string TimeDiff;         ///< local time minus UTC in hours, as typed
+    std::int16_t SerNr = 0;       ///< start serial; after a QSO the code received
+    std::int16_t SerNrStart = 0;  ///< start serial for the rules of stages
     std::string CfgSection;
     std::string CfgOp;
     std::int16_t CfgNo = 0;
@@ -69,25 +69,25 @@ struct Modul1State {
     std::int16_t CwPort = 0;
 
     // The QSO under entry.
-    std::string Indic;       ///< call worked
-    std::string IndicLog;    ///< call as it goes to the log
-    std::string RstRcvd1;    ///< report received
-    std::string RstRcvd2;    ///< code received
-    std::string RstRcvd3;    ///< locator received
-    std::string RstRcvdAll;  ///< report and code received joined; written, never read
-    std::string RstSent1;    ///< report sent
-    std::string RstSent2;    ///< code sent
-    std::string RstSent3;    ///< locator sent
-    std::string SentLog;     ///< column Sent: report, one blank, code
-    std::string RcvdLog;     ///< column Rcvd: report, one blank, code
-    std::string QraLog;      ///< column QRALoc
-    std::string QraLoc;      ///< working locator, input of the locator arithmetic
+    std::string Indic;             ///< call worked
+    std::string IndicLog;          ///< call as it goes to the log
+    std::string RstRcvd1;          ///< report received
+    std::string RstRcvd2;          ///< code received
+    std::string RstRcvd3;          ///< locator received
+    std::string RstRcvdAll;        ///< report and code received joined; written, never read
+    std::string RstSent1;          ///< report sent
+    std::string RstSent2;          ///< code sent
+    std::string RstSent3;          ///< locator sent
+    std::string SentLog;           ///< column Sent: report, one blank, code
+    std::string RcvdLog;           ///< column Rcvd: report, one blank, code
+    std::string QraLog;            ///< column QRALoc
+    std::string QraLoc;            ///< working locator, input of the locator arithmetic
     std::uint16_t QraUnknown = 0;  ///< 100: the station is not in the locator memory
     std::string YourName;
-    std::string DateQso;     ///< "dd.mm.yy"
-    std::string TimeQso;     ///< "hh:mm"
-    std::string PctCur;      ///< points of the QSO as text
-    double Qrb = 0;          ///< distance in whole kilometres
+    std::string DateQso;  ///< "dd.mm.yy"
+    std::string TimeQso;  ///< "hh:mm"
+    std::string PctCur;   ///< points of the QSO as text
+    double Qrb = 0;       ///< distance in whole kilometres
 
     // Running totals: QSOs, points and QSOs with a locator by band and stage.
     std::int16_t Qso144a = 0;
@@ -126,21 +126,21 @@ struct Modul1State {
     std::string Start1296b;
 
     // Control flags and working fields.
-    std::int16_t OfflineInput = 0;   ///< 100 a paper log is typed in, 10 live input
+    std::int16_t OfflineInput = 0;  ///< 100 a paper log is typed in, 10 live input
     std::string DateOff;
     std::string TimeOff;
     std::uint16_t TotalsDone = 0;
-    std::uint16_t GridRebuild = 0;   ///< form that the next grid set-up acts on: 100 entry, 1000 review
-    float ScaleX = 0;                ///< form width / 12000
-    float ScaleY = 0;                ///< form height / 9000
+    std::uint16_t GridRebuild = 0;  ///< form that the next grid set-up acts on: 100 entry, 1000 review
+    float ScaleX = 0;               ///< form width / 12000
+    float ScaleY = 0;               ///< form height / 9000
     std::string MsgStyle;
     std::string MsgText;
     std::string MsgResp;
     std::string MsgTitle;
     double Pi = 0;
     double DegRad = 0;
-    double LonCur = 0;               ///< radians, east positive
-    double LatCur = 0;               ///< radians, north positive
+    double LonCur = 0;  ///< radians, east positive
+    double LatCur = 0;  ///< radians, north positive
     double LonMy = 0;
     double LatMy = 0;
     std::int16_t PrintSel = 0;

@@ -21,10 +21,11 @@ constexpr const char* initDatName = "\\KelvoInit.dat";
 constexpr const char* textCwName = "\\KELVOTextCw.dat";
 
 constexpr Value initDat[] = {
-    &Modul1State::MyCall, &Modul1State::MyQRA,  &Modul1State::TimeDiff, &Modul1State::SerNr,   &Modul1State::CfgSection,
-    &Modul1State::CfgOp,  &Modul1State::CfgNo,  &Modul1State::CfgQTH,   &Modul1State::CfgAds,  &Modul1State::CfgTx,
-    &Modul1State::CfgRx,  &Modul1State::CfgAnt, &Modul1State::CfgAnt2,  &Modul1State::CfgAnt3, &Modul1State::CfgAnt4,
-    &Modul1State::CfgClub, &Modul1State::MyName,
+    &Modul1State::MyCall,     &Modul1State::MyQRA,   &Modul1State::TimeDiff, &Modul1State::SerNr,
+    &Modul1State::CfgSection, &Modul1State::CfgOp,   &Modul1State::CfgNo,    &Modul1State::CfgQTH,
+    &Modul1State::CfgAds,     &Modul1State::CfgTx,   &Modul1State::CfgRx,    &Modul1State::CfgAnt,
+    &Modul1State::CfgAnt2,    &Modul1State::CfgAnt3, &Modul1State::CfgAnt4,  &Modul1State::CfgClub,
+    &Modul1State::MyName,
 };
 
 constexpr Value textCw[] = {

@@ -30,7 +30,8 @@ constexpr std::uint16_t maraton = 7;
 
 constexpr const char* modesExplained[] = {
     "Programul permite doua moduri de operare. ",
-    "     -In modul CONCURS, (butonul CONCURS apasat) toate modificarile de QRA Locator sint memorate automat in baza de "
+    "     -In modul CONCURS, (butonul CONCURS apasat) toate modificarile de QRA Locator sint memorate automat in baza "
+    "de "
     "date.",
     "                -Al doilea mod este util pentru invatarea programului sau pentru antrenament.",
     "Cind butonul TEST este apasat, operatorul poate introduce orice date corespunzatoare QRA Locatorului fara a "
@@ -269,7 +270,8 @@ std::string appDirOf(std::string_view appPath)
 {
     const std::size_t bracket = appPath.rfind(']');
     if (bracket == std::string_view::npos) return std::string(appPath);
-    const bool hasDrive = appPath.size() > 1 && appPath[1] == ':' && std::isalpha(static_cast<unsigned char>(appPath[0])) != 0;
+    const bool hasDrive =
+        appPath.size() > 1 && appPath[1] == ':' && std::isalpha(static_cast<unsigned char>(appPath[0])) != 0;
     return std::string(hasDrive ? appPath.substr(0, 2) : std::string_view()) + std::string(appPath.substr(bracket + 1));
 }
 

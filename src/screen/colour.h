@@ -14,12 +14,12 @@ struct Colour {
 
 constexpr Colour black{0, 0, 0};
 constexpr Colour white{255, 255, 255};
-constexpr Colour yellow{255, 255, 0};   ///< a field to fill in; of the call: no verdict yet
-constexpr Colour red{255, 0, 0};        ///< of the call: a duplicate or the own call
-constexpr Colour green{0, 255, 0};      ///< of the call: clean
+constexpr Colour yellow{255, 255, 0};  ///< a field to fill in; of the call: no verdict yet
+constexpr Colour red{255, 0, 0};       ///< of the call: a duplicate or the own call
+constexpr Colour green{0, 255, 0};     ///< of the call: clean
 constexpr Colour lampOff{192, 192, 192};
 constexpr Colour lampOn{128, 0, 128};
-constexpr Colour grey = lampOff;        ///< a field that the program fills in
+constexpr Colour grey = lampOff;  ///< a field that the program fills in
 constexpr Colour buttonFace{240, 240, 240};
 
 }  // namespace screen

@@ -18,7 +18,20 @@ namespace screen {
 class Form;
 struct Control;
 
-enum class Kind { label, textBox, commandButton, optionButton, checkBox, frame, listBox, line, timer, menuEntry, grid, data };
+enum class Kind {
+    label,
+    textBox,
+    commandButton,
+    optionButton,
+    checkBox,
+    frame,
+    listBox,
+    line,
+    timer,
+    menuEntry,
+    grid,
+    data
+};
 
 using EventSlot = void (*)();
 /// A key going down or up: the handler may set the code to 0, which keeps the key from everything behind it.
@@ -83,7 +96,7 @@ struct TextBox;
 
 /// The text of a box. Setting it puts the caret in front of the first character, without a selection.
 class BoxText {
-   public:
+ public:
     explicit BoxText(TextBox& box) : box_(box) {}
     BoxText(const BoxText&) = delete;
     BoxText& operator=(const BoxText& other) { return *this = other.value_; }
@@ -92,7 +105,7 @@ class BoxText {
     BoxText& operator=(const std::string& text);
     BoxText& operator=(const char* text) { return *this = std::string(text); }
     operator const std::string&() const { return value_; }  // NOLINT(google-explicit-constructor): it is that text
-    operator std::string_view() const { return value_; }  // NOLINT(google-explicit-constructor): it is that text
+    operator std::string_view() const { return value_; }    // NOLINT(google-explicit-constructor): it is that text
     const std::string& get() const { return value_; }
 
     /// Changes the text as editing does, leaving the caret to the caller.
@@ -100,7 +113,7 @@ class BoxText {
 
     friend bool operator==(const BoxText& text, std::string_view other) { return text.value_ == other; }
 
-   private:
+ private:
     TextBox& box_;
     std::string value_;
 };
@@ -115,11 +128,11 @@ struct TextBox : Control {
     TextBox(Form* form, const char* name, Control* container = nullptr);
 
     BoxText Text{*this};
-    std::size_t SelStart = 0;   ///< characters in front of the caret or the selection
-    std::size_t SelLength = 0;  ///< characters selected
+    std::size_t SelStart = 0;            ///< characters in front of the caret or the selection
+    std::size_t SelLength = 0;           ///< characters selected
     bool caretAtSelectionStart = false;  ///< the end of the selection that Shift and an arrow move
-    bool parking = false;       ///< holds the focus when no field shall have it: never drawn, keys there do nothing
-    bool inputMethod = true;    ///< false in fields that take plain characters only
+    bool parking = false;     ///< holds the focus when no field shall have it: never drawn, keys there do nothing
+    bool inputMethod = true;  ///< false in fields that take plain characters only
     std::vector<TypingState> typingHistory;
 
     /// Puts the caret behind the last character.
@@ -143,7 +156,7 @@ struct OptionButton;
 
 /// Whether an option is chosen. Choosing one in code runs no Click and lets go of the others in its frame.
 class OptionValue {
-   public:
+ public:
     explicit OptionValue(OptionButton& option) : option_(option) {}
     OptionValue(const OptionValue&) = delete;
     OptionValue& operator=(const OptionValue& other) { return *this = other.chosen_; }
@@ -151,7 +164,7 @@ class OptionValue {
     OptionValue& operator=(bool chosen);
     operator bool() const { return chosen_; }  // NOLINT(google-explicit-constructor): it is that flag
 
-   private:
+ private:
     OptionButton& option_;
     bool chosen_ = false;
 };
@@ -195,7 +208,7 @@ struct Line : Control {
 
 struct Timer : Control {
     Timer(Form* form, const char* name);
-    int Interval = 0;  ///< milliseconds, 0 never
+    int Interval = 0;               ///< milliseconds, 0 never
     platform::MonotonicTime due{};  ///< of the next tick, 0 before the first was planned
     EventSlot Tick = nullptr;
 };

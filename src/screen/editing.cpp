@@ -77,8 +77,11 @@ void editWithControlKey(TextBox& box, int code)
             platform::machine().clipboard.setText(selectedText(box));
             eraseSelectionOr(box, 0, 0);
             break;
-        case 'Z': undoTyping(box); break;
-        default: break;
+        case 'Z':
+            undoTyping(box);
+            break;
+        default:
+            break;
     }
 }
 
@@ -118,13 +121,18 @@ void editWithKey(TextBox& box, const platform::Key& key)
     using namespace platform;
     if (key.ctrl) return editWithControlKey(box, key.code);
     switch (key.code) {
-        case keyLeft: return placeCaret(box, step(box, false, key.shift), key.shift);
-        case keyRight: return placeCaret(box, step(box, true, key.shift), key.shift);
-        case keyHome: return placeCaret(box, 0, key.shift);
-        case keyEnd: return placeCaret(box, base::length(box.Text.get()), key.shift);
+        case keyLeft:
+            return placeCaret(box, step(box, false, key.shift), key.shift);
+        case keyRight:
+            return placeCaret(box, step(box, true, key.shift), key.shift);
+        case keyHome:
+            return placeCaret(box, 0, key.shift);
+        case keyEnd:
+            return placeCaret(box, base::length(box.Text.get()), key.shift);
         case keyDelete:
             return eraseSelectionOr(box, box.SelStart, std::min(box.SelStart + 1, base::length(box.Text.get())));
-        default: return;
+        default:
+            return;
     }
 }
 

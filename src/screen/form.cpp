@@ -115,7 +115,9 @@ void TextBox::caretBehindTrimmed()
     SelLength = 0;
 }
 
-Label::Label(Form* form, const char* name, Control* container) : Control(form, name, Kind::label, container) {}
+Label::Label(Form* form, const char* name, Control* container) : Control(form, name, Kind::label, container)
+{
+}
 
 CommandButton::CommandButton(Form* form, const char* name, Control* container)
     : Control(form, name, Kind::commandButton, container)
@@ -141,7 +143,9 @@ CheckBox::CheckBox(Form* form, const char* name, Control* container) : Control(f
 {
 }
 
-Frame::Frame(Form* form, const char* name, Control* container) : Control(form, name, Kind::frame, container) {}
+Frame::Frame(Form* form, const char* name, Control* container) : Control(form, name, Kind::frame, container)
+{
+}
 
 ListBox::ListBox(Form* form, const char* name, Control* container) : Control(form, name, Kind::listBox, container)
 {
@@ -165,13 +169,21 @@ std::string ListBox::Text() const
     return items[static_cast<std::size_t>(ListIndex)];
 }
 
-Line::Line(Form* form, const char* name, Control* container) : Control(form, name, Kind::line, container) {}
+Line::Line(Form* form, const char* name, Control* container) : Control(form, name, Kind::line, container)
+{
+}
 
-Timer::Timer(Form* form, const char* name) : Control(form, name, Kind::timer, nullptr) {}
+Timer::Timer(Form* form, const char* name) : Control(form, name, Kind::timer, nullptr)
+{
+}
 
-MenuEntry::MenuEntry(Form* form, const char* name, MenuEntry* above) : Control(form, name, Kind::menuEntry, above) {}
+MenuEntry::MenuEntry(Form* form, const char* name, MenuEntry* above) : Control(form, name, Kind::menuEntry, above)
+{
+}
 
-DataControl::DataControl(Form* form, const char* name) : Control(form, name, Kind::data, nullptr) {}
+DataControl::DataControl(Form* form, const char* name) : Control(form, name, Kind::data, nullptr)
+{
+}
 
 void DataControl::Refresh()
 {

@@ -32,7 +32,7 @@ struct Rose {
 };
 
 class Form {
-   public:
+ public:
     explicit Form(const char* name) : name(name) {}
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;
@@ -62,7 +62,7 @@ class Form {
     /// Hides the form and marks it. Its data stays until the next Load.
     void Unload();
 
-   private:
+ private:
     friend struct Control;
     std::vector<Control*> controls_;
 };

@@ -20,9 +20,12 @@ bool answersToMnemonic(const Control& control)
     switch (control.kind) {
         case Kind::commandButton:
         case Kind::optionButton:
-        case Kind::checkBox: return true;
-        case Kind::menuEntry: return control.container == nullptr && !opensMenu(control);
-        default: return false;
+        case Kind::checkBox:
+            return true;
+        case Kind::menuEntry:
+            return control.container == nullptr && !opensMenu(control);
+        default:
+            return false;
     }
 }
 
@@ -32,13 +35,20 @@ const std::string& captionOf(const Control& control)
 {
     static const std::string none;
     switch (control.kind) {
-        case Kind::label: return static_cast<const Label&>(control).Caption;
-        case Kind::commandButton: return static_cast<const CommandButton&>(control).Caption;
-        case Kind::optionButton: return static_cast<const OptionButton&>(control).Caption;
-        case Kind::checkBox: return static_cast<const CheckBox&>(control).Caption;
-        case Kind::frame: return static_cast<const Frame&>(control).Caption;
-        case Kind::menuEntry: return static_cast<const MenuEntry&>(control).Caption;
-        default: return none;
+        case Kind::label:
+            return static_cast<const Label&>(control).Caption;
+        case Kind::commandButton:
+            return static_cast<const CommandButton&>(control).Caption;
+        case Kind::optionButton:
+            return static_cast<const OptionButton&>(control).Caption;
+        case Kind::checkBox:
+            return static_cast<const CheckBox&>(control).Caption;
+        case Kind::frame:
+            return static_cast<const Frame&>(control).Caption;
+        case Kind::menuEntry:
+            return static_cast<const MenuEntry&>(control).Caption;
+        default:
+            return none;
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <map>
 #include <new>
 #include <stdexcept>
@@ -83,6 +84,31 @@ Connection::Connection(const std::filesystem::path& file) : file_(file), fileNam
     sqlite3_busy_timeout(handle, busyMilliseconds);
     takeOverLike(handle);
     prepareFile();
+}
+
+void FinalizeStatement::operator()(sqlite3_stmt* statement) const
+{
+    sqlite3_finalize(statement);
+}
+
+StatementHandle Connection::takeKept(const std::string& text)
+{
+    const auto found =
+        std::find_if(kept_.begin(), kept_.end(), [&](const KeptStatement& kept) { return kept.text == text; });
+    if (found == kept_.end()) return nullptr;
+    StatementHandle statement = std::move(found->statement);
+    kept_.erase(found);
+    return statement;
+}
+
+void Connection::keep(const std::string& text, StatementHandle statement)
+{
+    constexpr std::size_t mostKept = 48;
+    if (!statement) return;
+    sqlite3_reset(statement.get());
+    sqlite3_clear_bindings(statement.get());
+    if (kept_.size() == mostKept) kept_.erase(kept_.begin());
+    kept_.push_back({text, std::move(statement)});
 }
 
 void Connection::Close::operator()(sqlite3* handle) const

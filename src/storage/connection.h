@@ -8,12 +8,19 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <vector>
 
 struct sqlite3;
+struct sqlite3_stmt;
 
 namespace storage {
 
 class PreparedStatement;
+
+struct FinalizeStatement {
+    void operator()(sqlite3_stmt* statement) const;
+};
+using StatementHandle = std::unique_ptr<sqlite3_stmt, FinalizeStatement>;
 
 /// What a statement was about when it failed.
 enum class Access { reading, writing };
@@ -54,12 +61,24 @@ class Connection {
         void operator()(sqlite3* handle) const;
     };
 
+    /// A readied statement that nobody uses, with its text.
+    struct KeptStatement {
+        std::string text;
+        StatementHandle statement;
+    };
+
+    /// The kept statement of this text, empty when there is none. It is the caller's until it is kept again.
+    StatementHandle takeKept(const std::string& text);
+    /// Resets a statement and keeps it, in place of the one that was not used for longest.
+    void keep(const std::string& text, StatementHandle statement);
+
     void prepareFile();
     std::string settingAfter(const char* pragma);
 
     std::filesystem::path file_;
     std::string fileName_;
     std::unique_ptr<sqlite3, Close> handle_;
+    std::vector<KeptStatement> kept_;  ///< oldest first; behind the handle, so that it goes before it
     std::uint64_t writes_ = 0;
 };
 

@@ -1,5 +1,7 @@
 #include "storage/database.h"
 
+#include <map>
+
 #include "base/runtime_error.h"
 #include "platform/files.h"
 #include "storage/connection.h"
@@ -48,7 +50,15 @@ void Database::Close()
 
 Database OpenDatabase(const std::string& path)
 {
-    return Database(connectionTo(platform::resolve(path)));
+    // Every logged QSO comes here twice: a connection that is open under this very text needs no search for its file.
+    static std::map<std::string, std::weak_ptr<Connection>> knownPaths;
+    std::weak_ptr<Connection>& known = knownPaths[path];
+    std::shared_ptr<Connection> connection = known.lock();
+    if (connection == nullptr || connection->fileHasMoved()) {
+        connection = connectionTo(platform::resolve(path));
+        known = connection;
+    }
+    return Database(std::move(connection));
 }
 
 }  // namespace storage

@@ -7,23 +7,28 @@
 namespace storage {
 
 PreparedStatement::PreparedStatement(Connection& connection, const std::string& text, Access access)
-    : connection_(&connection), access_(access)
+    : connection_(&connection), text_(text), access_(access), statement_(connection.takeKept(text))
+{
+    if (!statement_) prepare();
+}
+
+PreparedStatement::~PreparedStatement()
+{
+    if (text_.starts_with("SELECT")) connection_->keep(text_, std::move(statement_));
+}
+
+void PreparedStatement::prepare()
 {
     sqlite3_stmt* statement = nullptr;
     const char* behind = nullptr;
-    const int code =
-        sqlite3_prepare_v2(connection.handle_.get(), text.data(), static_cast<int>(text.size()), &statement, &behind);
+    const int code = sqlite3_prepare_v2(connection_->handle_.get(), text_.data(), static_cast<int>(text_.size()),
+                                        &statement, &behind);
     statement_.reset(statement);
     check(code);
-    const std::string_view rest(behind, static_cast<std::size_t>(text.data() + text.size() - behind));
+    const std::string_view rest(behind, static_cast<std::size_t>(text_.data() + text_.size() - behind));
     const bool more = rest.find_first_not_of("; \t\r\n\f\v") != std::string_view::npos;
     if (statement == nullptr || more)
-        throw base::RuntimeError(base::invalidArgument, "This is not one statement: " + text);
-}
-
-void PreparedStatement::Finalize::operator()(sqlite3_stmt* statement) const
-{
-    sqlite3_finalize(statement);
+        throw base::RuntimeError(base::invalidArgument, "This is not one statement: " + text_);
 }
 
 void PreparedStatement::check(int code) const

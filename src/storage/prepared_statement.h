@@ -1,4 +1,6 @@
-// One statement of SQLite, from its text to its last row. It is gone, with all its locks, when the object is.
+// One statement of SQLite, from its text to its last row. It is reset, and its locks are gone, when the object is; the
+// connection keeps the readied form of a SELECT for the next time, since understanding the text costs more than running
+// it.
 #pragma once
 
 #include <cstdint>
@@ -8,8 +10,6 @@
 
 #include "storage/connection.h"
 
-struct sqlite3_stmt;
-
 namespace storage {
 
 class PreparedStatement {
@@ -17,6 +17,9 @@ class PreparedStatement {
     /// Errors: 5 when the text is no statement, or more than one; 3059 when its table is not there; others as in
     /// database.h.
     PreparedStatement(Connection& connection, const std::string& text, Access access = Access::reading);
+    PreparedStatement(const PreparedStatement&) = delete;
+    PreparedStatement& operator=(const PreparedStatement&) = delete;
+    ~PreparedStatement();
 
     /// Gives the next value, in the order of the question marks in the text.
     void bind(std::int64_t value);
@@ -34,15 +37,13 @@ class PreparedStatement {
     bool isNull(int column) const;
 
  private:
-    struct Finalize {
-        void operator()(sqlite3_stmt* statement) const;
-    };
-
+    void prepare();
     void check(int code) const;
 
     Connection* connection_;
+    std::string text_;
     Access access_;
-    std::unique_ptr<sqlite3_stmt, Finalize> statement_;
+    StatementHandle statement_;
     int bound_ = 0;
 };
 

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QClipboard>
 #include <QDesktopServices>
 #include <QMenuBar>
 #include <QTest>
@@ -17,6 +18,7 @@
 #include <string>
 #include <vector>
 
+#include "desktop/characters.h"
 #include "desktop/desktop_program.h"
 #include "desktop_keys.h"
 #include "storage/schema.h"
@@ -151,6 +153,8 @@ class DesktopFace {
         ASSERT_NE(box, nullptr);
         boxes_.push_back(box->text().toStdString());
         press(box->windowHandle(), key);
+        // A letter shows its button pressed for a moment before the box goes.
+        ASSERT_TRUE(QTest::qWaitFor([&] { return program_->box() != box; })) << key << " answers nothing";
         program_->window().windowHandle()->requestActivate();
         settle();
     }
@@ -200,7 +204,8 @@ class DesktopFace {
         ADD_FAILURE() << entry.name << " is not in the menu";
     }
 
-    /// Until the program waits for the operator and everything asked for has happened. Boxes are answered on the way.
+    /// Turns the event loop until the program waits for the operator and everything asked for has happened. Boxes are
+    /// answered on the way.
     void settle()
     {
         if (inLater_) return;

@@ -37,7 +37,8 @@ inline KeyStroke bareStrokeOf(const std::string& name)
     };
     const auto found = named.find(name);
     if (found != named.end()) return found->second;
-    if (name.size() > 1 && name.front() == 'F') return {static_cast<Qt::Key>(Qt::Key_F1 + std::stoi(name.substr(1)) - 1)};
+    if (name.size() > 1 && name.front() == 'F')
+        return {static_cast<Qt::Key>(Qt::Key_F1 + std::stoi(name.substr(1)) - 1), {}, {}};
     if (base::length(name) != 1) throw std::logic_error("no such key: " + name);
     const QString text = QString::fromStdString(name);
     const bool capital = name >= "A" && name <= "Z" && name.size() == 1;

@@ -176,6 +176,7 @@ TEST_F(DesktopProgramTest, MenuEntriesArePicked)
 TEST_F(DesktopProgramTest, F10LeadsIntoTheMenuBarAndEscBack)
 {
     desktop::MainWindow& window = station_.program().window();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     station_.key(Qt::Key_F10);
     EXPECT_NE(window.menuBar()->activeAction(), nullptr);
     QTest::keyClick(window.menuBar(), Qt::Key_Escape);

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/keys.h"
 #include "platform/machine.h"
 #include "screen/frm_anzeigen.h"
 #include "screen/frm_init.h"
@@ -21,11 +22,14 @@ namespace test {
 /// returns, with the message boxes on the way; but inside of what later() was given, it is left to the program.
 /// Forms and controls may be looked at and changed whenever no call is running.
 template <typename Candidate>
-concept Face = requires(Candidate face, const std::string& text, screen::Control& control, screen::Grid& grid) {
+concept Face = requires(Candidate face, const std::string& text, screen::Control& control, screen::Grid& grid)
+{
     /// Starts the program in a fresh folder: the set-up page is on the screen.
     face.start();
     /// The program has ended by itself.
-    { face.ended() } -> std::same_as<bool>;
+    {
+        face.ended()
+        } -> std::same_as<bool>;
 
     /// Keys by name: "Tab", "F2", "Ctrl+c", or a single character.
     face.down(text);
@@ -49,13 +53,17 @@ concept Face = requires(Candidate face, const std::string& text, screen::Control
     /// Queues the answer of a question. Boxes with one button are answered without it.
     face.answer(platform::buttonYes);
     /// Texts of all boxes shown so far.
-    { face.boxes() } -> std::same_as<std::vector<std::string>>;
+    {
+        face.boxes()
+        } -> std::same_as<std::vector<std::string>>;
 
     /// Does something once so much time has gone by while a handler runs.
     face.later(std::chrono::milliseconds(1), std::function<void()>());
 
     /// Context numbers at which help was opened.
-    { face.helpOpened() } -> std::same_as<std::vector<std::string>>;
+    {
+        face.helpOpened()
+        } -> std::same_as<std::vector<std::string>>;
 };
 
 /// For handlers that take long: lets so much time go by without serving events.
@@ -65,7 +73,8 @@ inline void sleepFor(platform::MonotonicTime duration)
     clock.sleepUntil(clock.monotonic() + duration);
 }
 
-/// For handlers that take long: a turn every millisecond until something has come about. A test that waits in vain fails.
+/// For handlers that take long: a turn every millisecond until something has come about. A test that waits in vain
+/// fails.
 template <typename Done>
 void turnUntil(bool serving, Done&& done)
 {

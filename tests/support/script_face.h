@@ -32,12 +32,20 @@ class ScriptFace {
     void up(const std::string& key) { act("up " + quoted(key)); }
     void repeat(const std::string& key, int times) { act("repeat " + quoted(key) + " " + std::to_string(times)); }
     void type(const std::string& text) { act("type " + quoted(text)); }
-    void paste(const std::string& text) { act("paste " + quoted(text)); }
+    void paste(const std::string& text)
+    {
+        machine_.clipboard.setText(text);
+        act("down Ctrl+v");
+        act("up Ctrl+v");
+    }
     void focus(const screen::Control& control) { act("focus " + pathOf(control)); }
     void click(const screen::Control& control) { act("click " + pathOf(control)); }
     void doubleClick(const screen::Control& control) { act("dblclick " + pathOf(control)); }
     void clickRow(const screen::Grid& grid, int row) { act("row " + pathOf(grid) + " " + std::to_string(row)); }
-    void doubleClickRow(const screen::Grid& grid, int row) { act("dblrow " + pathOf(grid) + " " + std::to_string(row)); }
+    void doubleClickRow(const screen::Grid& grid, int row)
+    {
+        act("dblrow " + pathOf(grid) + " " + std::to_string(row));
+    }
     void close() { act("close"); }
 
     void answer(platform::Button button) { machine_.boxes.queueAnswer(button, 0); }

@@ -19,20 +19,20 @@ void fillLog(const std::filesystem::path& folder, std::string_view table, int ro
 
 /// A plain connection to the log with the settings that the program has, for the baselines.
 class PlainLog {
-   public:
+ public:
     explicit PlainLog(const std::filesystem::path& file);
     PlainLog(const PlainLog&) = delete;
     PlainLog& operator=(const PlainLog&) = delete;
     ~PlainLog();
     void execute(const std::string& statement);
 
-   private:
+ private:
     sqlite3* handle_ = nullptr;
 };
 
 /// The program in the middle of the contest "Floarea de mina", on 144 MHz in CW, the memory learning.
 class Station : private app::EntrySource {
-   public:
+ public:
     /// `sink` may be nullptr.
     Station(const std::filesystem::path& folder, app::PictureSink* sink);
 
@@ -50,7 +50,7 @@ class Station : private app::EntrySource {
     const std::vector<std::string>& notices() const { return machine_.record.notices; }
     script::VirtualMachine& machine() { return machine_; }
 
-   private:
+ private:
     std::optional<app::QueueEntry> poll() override { return std::nullopt; }
     void click(screen::Control& control);
 

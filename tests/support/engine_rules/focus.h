@@ -23,8 +23,7 @@ TYPED_TEST_P(FocusRules, GotFocusComesBehindTheCharacterOfTheKey)
     this->onKeyDown(FrmInit.TxtMyCall, [](int& /*code*/) { FrmInit.txtMyQRA.SetFocus(); });
     this->onGotFocus(FrmInit.txtMyQRA, [this] { this->note("call " + FrmInit.TxtMyCall.Text.get()); });
     this->down("a");
-    EXPECT_EQ(this->takeLog(),
-              Log({"TxtMyCall KeyDown 65", "TxtMyCall KeyPress 97", "txtMyQRA GotFocus", "call a"}));
+    EXPECT_EQ(this->takeLog(), Log({"TxtMyCall KeyDown 65", "TxtMyCall KeyPress 97", "txtMyQRA GotFocus", "call a"}));
     this->up("a");
     EXPECT_EQ(this->takeLog(), Log({"txtMyQRA KeyUp 65"}));
 }
@@ -47,9 +46,9 @@ TYPED_TEST_P(FocusRules, KeyUpMayMoveTheFocus)
     this->onKeyUp(FrmInit.TxtMyCall, [](int& /*code*/) { FrmInit.txtMyQRA.SetFocus(); });
     this->strike("a");
     this->strike("b");
-    EXPECT_EQ(this->takeLog(), Log({"TxtMyCall KeyDown 65", "TxtMyCall KeyPress 97", "TxtMyCall KeyUp 65",
-                                    "txtMyQRA GotFocus", "txtMyQRA KeyDown 66", "txtMyQRA KeyPress 98",
-                                    "txtMyQRA KeyUp 66"}));
+    EXPECT_EQ(this->takeLog(),
+              Log({"TxtMyCall KeyDown 65", "TxtMyCall KeyPress 97", "TxtMyCall KeyUp 65", "txtMyQRA GotFocus",
+                   "txtMyQRA KeyDown 66", "txtMyQRA KeyPress 98", "txtMyQRA KeyUp 66"}));
 }
 
 TYPED_TEST_P(FocusRules, AClickGivesTheFocusAndGotFocusAndThenClick)
@@ -101,8 +100,8 @@ TYPED_TEST_P(FocusRules, TheFieldThatHasTheFocusGetsNoSecondGotFocus)
     this->strike("a");
     this->click(FrmInit.TxtMyCall);
     this->focus(FrmInit.TxtMyCall);
-    EXPECT_EQ(this->takeLog(), Log({"TxtMyCall KeyDown 65", "TxtMyCall KeyPress 97", "TxtMyCall KeyUp 65",
-                                    "TxtMyCall Click"}));
+    EXPECT_EQ(this->takeLog(),
+              Log({"TxtMyCall KeyDown 65", "TxtMyCall KeyPress 97", "TxtMyCall KeyUp 65", "TxtMyCall Click"}));
 }
 
 TYPED_TEST_P(FocusRules, AFieldThatHadTheFocusBeforeGetsItAnew)

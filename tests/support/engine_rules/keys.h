@@ -6,7 +6,8 @@
 namespace test {
 
 template <typename SomeFace>
-class KeyRules : public Desk<SomeFace> {};
+class KeyRules : public Desk<SomeFace> {
+};
 TYPED_TEST_SUITE_P(KeyRules);
 
 TYPED_TEST_P(KeyRules, TheCharacterComesBetweenKeyPressAndKeyUp)
@@ -17,8 +18,8 @@ TYPED_TEST_P(KeyRules, TheCharacterComesBetweenKeyPressAndKeyUp)
     this->onKeyPress(FrmInit.TxtMyCall, noteText);
     this->onKeyUp(FrmInit.TxtMyCall, noteText);
     this->strike("a");
-    EXPECT_EQ(this->takeLog(), Log({"TxtMyCall KeyDown 65", "text ", "TxtMyCall KeyPress 97", "text ",
-                                    "TxtMyCall KeyUp 65", "text a"}));
+    EXPECT_EQ(this->takeLog(),
+              Log({"TxtMyCall KeyDown 65", "text ", "TxtMyCall KeyPress 97", "text ", "TxtMyCall KeyUp 65", "text a"}));
 }
 
 TYPED_TEST_P(KeyRules, KeyPressAndCharacterStayWithTheFieldOfKeyDown)
@@ -109,8 +110,8 @@ TYPED_TEST_P(KeyRules, KeysWithoutACharacterHaveNoKeyPress)
 {
     this->startIn(FrmInit.TxtMyCall);
     const std::vector<std::pair<std::string, int>> keys = {
-        {"PageUp", 33}, {"PageDown", 34}, {"End", 35},  {"Home", 36},    {"Left", 37}, {"Up", 38},    {"Right", 39},
-        {"Down", 40},   {"Insert", 45},   {"Delete", 46}, {"F2", 113}, {"F8", 119},  {"F12", 123},
+        {"PageUp", 33}, {"PageDown", 34}, {"End", 35},    {"Home", 36}, {"Left", 37}, {"Up", 38},   {"Right", 39},
+        {"Down", 40},   {"Insert", 45},   {"Delete", 46}, {"F2", 113},  {"F8", 119},  {"F12", 123},
     };
     for (const auto& [key, code] : keys) {
         this->strike(key);

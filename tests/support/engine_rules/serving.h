@@ -27,7 +27,7 @@ class ServingRules : public Desk<SomeFace> {
         });
     }
 
-    /// Presses of a key of the program in the middle of the handler that F2 starts.
+    /// The key that closed the box comes up now. No field hears of it, and there was that one box.
     void expectNoKeyUpOfTheBox()
     {
         this->up("Enter");
@@ -49,9 +49,8 @@ TYPED_TEST_P(ServingRules, ABoxInKeyDown)
     this->strike("a");
     this->expectNoKeyUpOfTheBox();
     this->type("b");
-    EXPECT_EQ(this->takeLog(),
-              Log({"TxtMyCall KeyDown 65", "TxtMyCall KeyPress 97", "TxtMyCall KeyUp 65", "TxtMyCall KeyDown 66",
-                   "TxtMyCall KeyPress 98", "TxtMyCall KeyUp 66"}));
+    EXPECT_EQ(this->takeLog(), Log({"TxtMyCall KeyDown 65", "TxtMyCall KeyPress 97", "TxtMyCall KeyUp 65",
+                                    "TxtMyCall KeyDown 66", "TxtMyCall KeyPress 98", "TxtMyCall KeyUp 66"}));
     EXPECT_EQ(FrmInit.TxtMyCall.Text.get(), "ab");
 }
 
@@ -205,6 +204,25 @@ TYPED_TEST_P(ServingRules, AHandlerThatDoesNotServeGetsTheKeyAfterwards)
     EXPECT_EQ(FrmInit.TxtMyCall.Text.get(), "b");
 }
 
+TYPED_TEST_P(ServingRules, AKeyTypedAheadGoesWhereTheFocusIsWhenItsTurnComes)
+{
+    this->startWithTwoFields();
+    std::atomic<bool> typed = false;
+    this->onKeyDown(FrmInit.TxtMyCall, [&typed](int& code) {
+        if (code != platform::keyF2) return;
+        sleepUntilThat([&] { return typed.load(); });
+        FrmInit.txtMyQRA.SetFocus();
+    });
+    this->later(std::chrono::milliseconds(5), [&] {
+        this->type("b");
+        typed = true;
+    });
+    this->strike("F2");
+    EXPECT_EQ(FrmInit.TxtMyCall.Text.get(), "");
+    EXPECT_EQ(FrmInit.txtMyQRA.Text.get(), "b");
+    EXPECT_EQ(this->log().at(1), "txtMyQRA GotFocus");
+}
+
 TYPED_TEST_P(ServingRules, TimersTickWhileEventsAreServed)
 {
     this->startIn(FrmInit.TxtMyCall);
@@ -312,7 +330,8 @@ REGISTER_TYPED_TEST_SUITE_P(ServingRules, ABoxInKeyDown, ABoxInKeyPress, ABoxInK
                             ABoxInGotFocusStandsBetweenTheKeyAndItsKeyUp, KeysTypedAheadOfABoxComeBehindIt,
                             AKeyIsHandledInTheMiddleOfAHandlerThatServes, GotFocusComesBeforeTheKeyThatIsServed,
                             GotFocusComesBetweenTwoServedKeys, AClickIsServedToo, HandlersThatServeNest,
-                            AHandlerThatDoesNotServeGetsTheKeyAfterwards, TimersTickWhileEventsAreServed,
+                            AHandlerThatDoesNotServeGetsTheKeyAfterwards,
+                            AKeyTypedAheadGoesWhereTheFocusIsWhenItsTurnComes, TimersTickWhileEventsAreServed,
                             ATickThatTakesLongDoesNotTickInItself, AKeyThatIsDownIsSeenAtOnce,
                             AKeyThatWentDownSinceTheLastLookIsSeenOnce, AKeyThatWentDownIsForgotten);
 

@@ -1,0 +1,142 @@
+// The rules of the event engine in the desktop program, and those that only a window can break.
+#include "desktop_face.h"
+#include "moc_desktop_face.cpp"
+#include "support/engine_rules.h"
+
+namespace test {
+
+INSTANTIATE_ENGINE_RULES(Desktop, DesktopFace);
+
+namespace {
+
+class WindowRules : public Desk<DesktopFace> {
+ protected:
+    /// The set-up page with a box open that the letter a raised.
+    void startWithBox()
+    {
+        startIn(FrmInit.TxtMyCall);
+        onKeyDown(FrmInit.TxtMyCall, [](int& code) {
+            if (code == 'A') platform::msgBox("Falsche Eingabe");
+        });
+        keepBoxesOpen();
+        down("a");
+        ASSERT_NE(program().box(), nullptr);
+    }
+
+    /// What the system sends for a key that it repeats while it is down.
+    void repeatOver(QWindow* window, Qt::Key key, const QString& text, int times)
+    {
+        for (int i = 0; i < times; ++i)
+            for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress})
+                qt_handleKeyEvent(window, type, key, Qt::NoModifier, text, true);
+        ASSERT_TRUE(program().waitUntilIdle());
+    }
+};
+
+TEST_F(WindowRules, TheKeyThatRaisedABoxMayComeUpOverTheBox)
+{
+    startWithBox();
+    QTest::sendKeyEvent(QTest::Release, program().box()->windowHandle(), Qt::Key_A, QStringLiteral("a"),
+                        Qt::NoModifier);
+    ASSERT_NE(program().box(), nullptr);
+    pressInBox("Enter");
+    up("Enter");
+    EXPECT_EQ(takeLog(), Log({"TxtMyCall KeyDown 65", "TxtMyCall KeyPress 97", "TxtMyCall KeyUp 65"}));
+}
+
+TEST_F(WindowRules, AKeyThatRepeatsOverABoxTypesNothing)
+{
+    startWithBox();
+    repeatOver(program().box()->windowHandle(), Qt::Key_A, QStringLiteral("a"), 5);
+    ASSERT_NE(program().box(), nullptr);
+    pressInBox("Enter");
+    up("Enter");
+    up("a");
+    EXPECT_EQ(FrmInit.TxtMyCall.Text.get(), "a");
+}
+
+TEST_F(WindowRules, TheKeyThatClosedABoxRepeatsIntoNothing)
+{
+    startWithBox();
+    pressInBox("Enter");
+    ASSERT_EQ(program().box(), nullptr);
+    takeLog();
+    repeatOver(formWindow(), Qt::Key_Return, QStringLiteral("\r"), 5);
+    up("Enter");
+    EXPECT_EQ(takeLog(), Log());
+    up("a");
+}
+
+TEST_F(WindowRules, TheCloseButtonWaitsForTheBoxThatIsOpen)
+{
+    startWithBox();
+    close();
+    EXPECT_FALSE(ended());
+    ASSERT_NE(program().box(), nullptr);
+    EXPECT_EQ(program().box()->text(), QStringLiteral("Falsche Eingabe"));
+    pressInBox("Enter");
+    ASSERT_NE(program().box(), nullptr);
+    EXPECT_EQ(program().box()->windowTitle(), QStringLiteral("EXIT"));
+    pressInBox("y");
+    EXPECT_TRUE(ended());
+}
+
+TEST_F(WindowRules, ASignalToEndWaitsForTheBoxThatIsOpen)
+{
+    startWithBox();
+    program().askToEnd();
+    ASSERT_TRUE(program().waitUntilIdle());
+    ASSERT_NE(program().box(), nullptr);
+    pressInBox("Enter");
+    pressInBox("n");
+    EXPECT_FALSE(ended());
+    up("a");
+    EXPECT_EQ(FrmInit.TxtMyCall.Text.get(), "a");
+}
+
+TEST_F(WindowRules, AProgramThatIsTakenAwayUnderAnOpenBoxIsGone)
+{
+    startWithBox();
+}
+
+TEST_F(WindowRules, AProgramThatIsTakenAwayUnderAHandlerThatServesIsGone)
+{
+    startIn(FrmInit.TxtMyCall);
+    onKeyDown(FrmInit.TxtMyCall, [](int& /*code*/) {
+        for (;;) {
+            sleepFor(std::chrono::milliseconds(1));
+            platform::serveEvents();
+        }
+    });
+    const app::KeyWentDown key{{.code = platform::keyF2}};
+    program().post(key);
+}
+
+TEST_F(WindowRules, AMenuThatChangesLeavesNothingBehind)
+{
+    startAndOpenEntry();
+    const auto actions = [this] { return program().window().menuBar()->findChildren<QAction*>().size(); };
+    const auto before = actions();
+    click(FrmQSO.mnuAnfang);
+    ASSERT_EQ(screen::activeForm(), &FrmInit);
+    click(FrmInit.mnuQSOfahren);
+    ASSERT_EQ(screen::activeForm(), &FrmQSO);
+    EXPECT_EQ(actions(), before);
+}
+
+TEST_F(WindowRules, KeysAreReleasedWhenAnotherApplicationTakesTheKeyboard)
+{
+    startIn(FrmInit.TxtMyCall);
+    down("a");
+    takeLog();
+    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
+    ASSERT_TRUE(program().waitUntilIdle());
+    EXPECT_EQ(takeLog(), Log({"TxtMyCall KeyUp 65"}));
+    repeatOver(formWindow(), Qt::Key_A, QStringLiteral("a"), 3);
+    up("a");
+    EXPECT_EQ(takeLog(), Log());
+}
+
+}  // namespace
+
+}  // namespace test

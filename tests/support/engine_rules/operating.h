@@ -1,0 +1,365 @@
+// Buttons, options, check boxes, grids and menus, by keys and by the pointer.
+#pragma once
+
+#include <algorithm>
+
+#include "storage/open_databases.h"
+#include "support/face.h"
+
+namespace test {
+
+template <typename SomeFace>
+class OperatingRules : public Desk<SomeFace> {
+ protected:
+    void startWatching(std::initializer_list<screen::Control*> controls)
+    {
+        this->start();
+        this->watch(controls);
+    }
+
+    /// Names of the controls that keys lead to, until they come to the first one again.
+    std::vector<std::string> wayOf(const std::string& key)
+    {
+        std::vector<std::string> names;
+        const std::string first = this->focusedName();
+        do {
+            names.push_back(this->focusedName());
+            this->strike(key);
+        } while (this->focusedName() != first && names.size() < 100);
+        return names;
+    }
+
+    static std::vector<std::string> stopsOf(const screen::Form& form)
+    {
+        std::vector<std::string> names;
+        for (const screen::Control* control : form.controls())
+            if (control->TabStop && control->canTakeFocus()) names.push_back(control->name);
+        return names;
+    }
+
+    /// The entry form with three QSOs in the log, and its grid on the second one.
+    void startWithThreeRows()
+    {
+        this->startAndOpenEntry();
+        this->logQso("yo5aaa", "001", "kn16aa");
+        this->logQso("yo6bbb", "002", "kn26aa");
+        this->logQso("yo7ccc", "003", "kn15aa");
+        ASSERT_TRUE(FrmQSO.DBGrid1.seen());
+        this->watch({&FrmQSO.DBGrid1, &FrmQSO.txtIndic});
+    }
+
+    static std::string currentCall(const screen::Grid& grid) { return grid.data->Recordset.Field("Callsign"); }
+};
+TYPED_TEST_SUITE_P(OperatingRules);
+
+TYPED_TEST_P(OperatingRules, AClickOnAChosenOptionRunsItsHandler)
+{
+    this->startWatching({&FrmInit.OpbCwN});
+    ASSERT_TRUE(FrmInit.OpbCwN.Value);
+    this->click(FrmInit.OpbCwN);
+    EXPECT_EQ(this->takeLog(), Log({"OpbCwN GotFocus", "OpbCwN Click"}));
+    EXPECT_TRUE(FrmInit.OpbCwN.Value);
+}
+
+TYPED_TEST_P(OperatingRules, AClickChoosesAnOptionBeforeItsHandlerRuns)
+{
+    this->startWatching({&FrmInit.OpbCwJ, &FrmInit.OpbCwN});
+    this->onClick(FrmInit.OpbCwJ, [this] {
+        this->note(FrmInit.OpbCwJ.Value && !FrmInit.OpbCwN.Value && FrmInit.OpbSSBN.Value ? "chosen" : "not chosen");
+    });
+    this->click(FrmInit.OpbCwJ);
+    EXPECT_EQ(this->takeLog(), Log({"OpbCwJ GotFocus", "OpbCwJ Click", "chosen"}));
+}
+
+TYPED_TEST_P(OperatingRules, AValueSetByTheProgramRunsNoHandler)
+{
+    this->startWatching({&FrmInit.OpbCwJ, &FrmInit.OpbCwN, &FrmInit.ChkCwRpt});
+    this->inProgram([] {
+        FrmInit.OpbCwJ.Value = true;
+        FrmInit.ChkCwRpt.Value = 1;
+    });
+    EXPECT_TRUE(FrmInit.OpbCwJ.Value);
+    EXPECT_FALSE(FrmInit.OpbCwN.Value);
+    EXPECT_TRUE(FrmInit.OpbSSBN.Value) << "another frame";
+    EXPECT_EQ(this->takeLog(), Log({"mnuExit Click"}));
+}
+
+TYPED_TEST_P(OperatingRules, CheckBoxesTurnWithEachClickAndSpace)
+{
+    this->startWatching({&FrmInit.ChkCwRpt});
+    this->inProgram([] { FrmInit.ChkCwRpt.Visible = true; });
+    this->takeLog();
+    this->click(FrmInit.ChkCwRpt);
+    EXPECT_EQ(FrmInit.ChkCwRpt.Value, 1);
+    this->strike("Space");
+    EXPECT_EQ(FrmInit.ChkCwRpt.Value, 0);
+    this->strike("Enter");
+    EXPECT_EQ(FrmInit.ChkCwRpt.Value, 0) << "Enter presses buttons only";
+    EXPECT_EQ(this->countOf("ChkCwRpt Click"), 2);
+    this->down("Space");
+    this->repeat("Space", 3);
+    this->up("Space");
+    EXPECT_EQ(FrmInit.ChkCwRpt.Value, 1);
+}
+
+TYPED_TEST_P(OperatingRules, SpaceAndEnterPressAButton)
+{
+    this->startAndOpenEntry();
+    this->watch(FrmQSO.CmdAbbruchX);
+    this->goTo(FrmQSO.CmdAbbruchX);
+    this->strike("Space");
+    EXPECT_EQ(this->countOf("CmdAbbruchX Click"), 1);
+    this->strike("Enter");
+    EXPECT_EQ(this->countOf("CmdAbbruchX Click"), 2);
+    this->strike("x");
+    EXPECT_EQ(this->countOf("CmdAbbruchX Click"), 2);
+    this->down("Enter");
+    this->repeat("Enter", 5);
+    this->up("Enter");
+    EXPECT_EQ(this->countOf("CmdAbbruchX Click"), 3);
+}
+
+TYPED_TEST_P(OperatingRules, SpaceChoosesAnOption)
+{
+    this->startWatching({&FrmInit.OpbCwJ});
+    this->goTo(FrmInit.OpbCwJ);
+    this->strike("Space");
+    EXPECT_EQ(this->takeLog(), Log({"OpbCwJ KeyDown 32", "OpbCwJ KeyPress 32", "OpbCwJ Click", "OpbCwJ KeyUp 32"}));
+    EXPECT_TRUE(FrmInit.OpbCwJ.Value);
+}
+
+TYPED_TEST_P(OperatingRules, AKeyThatAHandlerStoppedPressesNothing)
+{
+    this->startWatching({&FrmInit.OpbCwJ});
+    this->goTo(FrmInit.OpbCwJ);
+    this->onKeyPress(FrmInit.OpbCwJ, [](char32_t& character) { character = 0; });
+    this->strike("Space");
+    EXPECT_FALSE(FrmInit.OpbCwJ.Value);
+}
+
+TYPED_TEST_P(OperatingRules, ArrowsChooseAmongTheOptionsOfAFrame)
+{
+    this->startWatching({&FrmInit.OpbCwJ, &FrmInit.OpbCwN});
+    this->goTo(FrmInit.OpbCwN);
+    this->strike("Up");
+    EXPECT_EQ(this->focusedName(), "OpbCwJ");
+    EXPECT_TRUE(FrmInit.OpbCwJ.Value);
+    EXPECT_EQ(this->countOf("OpbCwJ Click"), 1);
+    this->strike("Left");
+    EXPECT_EQ(this->focusedName(), "OpbCwN") << "round to the last one";
+    EXPECT_EQ(this->countOf("OpbCwN Click"), 1);
+    this->strike("Right");
+    EXPECT_EQ(this->focusedName(), "OpbCwJ");
+    this->inProgram([] { FrmInit.OpbCwN.Enabled = false; });
+    this->goTo(FrmInit.OpbCwJ);
+    this->strike("Down");
+    EXPECT_EQ(this->focusedName(), "OpbCwJ") << "the other one is off";
+}
+
+TYPED_TEST_P(OperatingRules, ArrowsChooseInAList)
+{
+    this->startAndOpenEntry();
+    this->watch(FrmQSO.List1);
+    this->inProgram([] {
+        FrmQSO.Frame3.Visible = true;
+        FrmQSO.List1.Clear();
+        for (const char* band : {"2320", "5760", "10368"})
+            FrmQSO.List1.AddItem(band);
+    });
+    this->goTo(FrmQSO.List1);
+    this->strike("Up");
+    EXPECT_EQ(FrmQSO.List1.Text(), "") << "there is none above";
+    this->down("Down");
+    this->repeat("Down", 1);
+    this->up("Down");
+    EXPECT_EQ(FrmQSO.List1.Text(), "5760");
+    EXPECT_EQ(this->countOf("List1 Click"), 2);
+    this->strike("Up");
+    EXPECT_EQ(FrmQSO.List1.Text(), "2320");
+    this->down("Down");
+    this->repeat("Down", 5);
+    this->up("Down");
+    EXPECT_EQ(FrmQSO.List1.Text(), "10368");
+    EXPECT_EQ(this->countOf("List1 Click"), 5) << "no click where nothing else was chosen";
+}
+
+TYPED_TEST_P(OperatingRules, ADoubleClickGivesTheFocusFirst)
+{
+    this->startIn(FrmInit.TxtMyCall);
+    this->watch(FrmInit.txtMyQRA);
+    this->doubleClick(FrmInit.txtMyQRA);
+    ASSERT_FALSE(this->log().empty());
+    EXPECT_EQ(this->log().front(), "txtMyQRA GotFocus");
+    EXPECT_EQ(this->log().back(), "txtMyQRA DblClick");
+}
+
+TYPED_TEST_P(OperatingRules, WhatIsSwitchedOffTakesNoLetter)
+{
+    this->startIn(FrmInit.TxtMyCall);
+    this->watch({&FrmInit.OpbConcurs, &FrmInit.mnuQSOfahren});
+    this->inProgram([] {
+        FrmInit.FraConcurs.Visible = true;
+        FrmInit.FraConcurs.Enabled = false;
+        FrmInit.mnuQSOfahren.Enabled = false;
+    });
+    this->goTo(FrmInit.TxtMyCall);
+    this->strike("Alt+q");
+    this->strike("Alt+o");
+    EXPECT_EQ(this->countOf("mnuQSOfahren Click") + this->countOf("OpbConcurs Click"), 0);
+    EXPECT_EQ(this->focusedName(), "TxtMyCall");
+}
+
+TYPED_TEST_P(OperatingRules, TabLeadsThroughTheSetUpPageInItsOrder)
+{
+    this->start();
+    const std::vector<std::string> stops = this->stopsOf(FrmInit);
+    ASSERT_GT(stops.size(), 15U);
+    EXPECT_EQ(std::find(stops.begin(), stops.end(), "TxtMyName"), stops.end()) << "it is hidden";
+    EXPECT_EQ(std::find(stops.begin(), stops.end(), "TxtF1"), stops.end()) << "its frame is hidden";
+    this->goTo(FrmInit.TxtMyCall);
+    EXPECT_EQ(this->wayOf("Tab"), stops);
+}
+
+TYPED_TEST_P(OperatingRules, ShiftAndTabLeadBack)
+{
+    this->start();
+    std::vector<std::string> stops = this->stopsOf(FrmInit);
+    this->goTo(FrmInit.TxtMyCall);
+    std::reverse(stops.begin() + 1, stops.end());
+    EXPECT_EQ(this->wayOf("Shift+Tab"), stops);
+}
+
+TYPED_TEST_P(OperatingRules, TabMovesNothingByItselfOnTheEntryForm)
+{
+    this->startAndOpenEntry();
+    this->watch(FrmQSO.txtIndic);
+    this->goTo(FrmQSO.txtIndic);
+    this->strike("Tab");
+    this->strike("Shift+Tab");
+    EXPECT_EQ(this->focusedName(), "txtIndic");
+    EXPECT_EQ(this->countOf("txtIndic KeyDown 9"), 2);
+}
+
+TYPED_TEST_P(OperatingRules, AltAndTheMarkedLetterClick)
+{
+    this->startIn(FrmInit.TxtMyCall);
+    this->watch({&FrmInit.mnuQSOfahren, &FrmInit.OpbConcurs, &FrmInit.ChkCwRpt});
+    this->strike("Alt+q");
+    EXPECT_EQ(this->countOf("mnuQSOfahren Click"), 1);
+    this->strike("Alt+o");
+    this->strike("Alt+r");
+    EXPECT_EQ(this->countOf("OpbConcurs Click"), 0) << "it is hidden with its frame";
+    EXPECT_EQ(FrmInit.ChkCwRpt.Value, 0);
+    EXPECT_EQ(this->focusedName(), "TxtMyCall");
+    this->inProgram([] {
+        FrmInit.FraConcurs.Visible = true;
+        FrmInit.ChkCwRpt.Visible = true;
+    });
+    this->takeLog();
+    this->strike("Alt+o");
+    EXPECT_EQ(this->countOf("OpbConcurs Click"), 1);
+    EXPECT_TRUE(FrmInit.OpbConcurs.Value);
+    EXPECT_EQ(this->focusedName(), "OpbConcurs");
+    this->strike("Alt+r");
+    EXPECT_EQ(FrmInit.ChkCwRpt.Value, 1);
+    EXPECT_EQ(FrmInit.TxtMyCall.Text.get(), "");
+}
+
+TYPED_TEST_P(OperatingRules, F1OpensHelpWhereNoHandlerTakesIt)
+{
+    this->start();
+    this->goTo(FrmInit.TxtRpNr);
+    this->strike("F1");
+    EXPECT_EQ(this->helpOpened(), std::vector<std::string>()) << "the field swallows it";
+    this->goTo(FrmInit.OpbCwN);
+    this->down("F1");
+    this->repeat("F1", 3);
+    this->up("F1");
+    EXPECT_EQ(this->helpOpened(), std::vector<std::string>({"100"}));
+}
+
+TYPED_TEST_P(OperatingRules, HelpOpensAtTheNumberOfTheForm)
+{
+    this->startAndOpenEntry();
+    this->focus(FrmQSO.CmdAbbruchX);
+    this->strike("F1");
+    EXPECT_EQ(this->helpOpened(), std::vector<std::string>({"400"}));
+}
+
+TYPED_TEST_P(OperatingRules, CtrlAndArrowsMoveInTheGrid)
+{
+    this->startWithThreeRows();
+    this->inProgram([] { FrmQSO.Uus144a.Recordset.MoveLast(); });
+    this->goTo(FrmQSO.txtIndic);
+    const std::string last = this->currentCall(FrmQSO.DBGrid1);
+    this->strike("Ctrl+Up");
+    const std::string middle = this->currentCall(FrmQSO.DBGrid1);
+    this->strike("Ctrl+Up");
+    const std::string first = this->currentCall(FrmQSO.DBGrid1);
+    EXPECT_EQ(std::vector<std::string>({first, middle, last}),
+              std::vector<std::string>({"YO5AAA", "YO6BBB", "YO7CCC"}));
+    this->strike("Ctrl+Up");
+    EXPECT_EQ(this->currentCall(FrmQSO.DBGrid1), first) << "there is none above";
+    this->down("Ctrl+Down");
+    this->repeat("Ctrl+Down", 5);
+    this->up("Ctrl+Down");
+    EXPECT_EQ(this->currentCall(FrmQSO.DBGrid1), last);
+    EXPECT_EQ(this->focusedName(), "txtIndic");
+    EXPECT_EQ(this->countOf("txtIndic KeyDown 38") + this->countOf("txtIndic KeyDown 40"), 0);
+}
+
+TYPED_TEST_P(OperatingRules, CtrlAndDeleteTouchTheRow)
+{
+    this->startWithThreeRows();
+    FrmQSO.txtIndic.Text = "YO";
+    this->down("Ctrl+Delete");
+    this->repeat("Ctrl+Delete", 3);
+    this->up("Ctrl+Delete");
+    EXPECT_EQ(this->countOf("DBGrid1 RowTouched"), 1);
+    EXPECT_EQ(FrmQSO.txtIndic.Text.get(), "YO");
+}
+
+TYPED_TEST_P(OperatingRules, ADoubleClickTouchesARowOfTheEntryForm)
+{
+    this->startWithThreeRows();
+    this->clickRow(FrmQSO.DBGrid1, 1);
+    EXPECT_EQ(this->countOf("DBGrid1 RowTouched"), 0);
+    EXPECT_EQ(this->currentCall(FrmQSO.DBGrid1), "YO5AAA");
+    this->doubleClickRow(FrmQSO.DBGrid1, 2);
+    EXPECT_EQ(this->countOf("DBGrid1 RowTouched"), 1);
+    EXPECT_EQ(this->currentCall(FrmQSO.DBGrid1), "YO6BBB");
+    EXPECT_EQ(this->focusedName(), "txtIndic") << "the operator goes on typing";
+}
+
+TYPED_TEST_P(OperatingRules, AClickTouchesARowOfTheReviewForm)
+{
+    this->startWithThreeRows();
+    this->click(FrmQSO.mnuAnfang);
+    ASSERT_EQ(screen::activeForm(), &FrmInit);
+    this->click(FrmInit.mnuLOG);
+    ASSERT_EQ(screen::activeForm(), &FrmAnzeigen);
+    this->inProgram([] {
+        FrmAnzeigen.Uus144a.DatabaseName = storage::logDatabasePath();
+        FrmAnzeigen.Uus144a.RecordSource = "SELECT * FROM Uus144a";
+        FrmAnzeigen.Uus144a.Refresh();
+        FrmAnzeigen.DBGrid1.columnWidths.fill(1000);
+        FrmAnzeigen.DBGrid1.Visible = true;
+    });
+    this->watch(FrmAnzeigen.DBGrid1);
+    this->clickRow(FrmAnzeigen.DBGrid1, 3);
+    EXPECT_EQ(this->countOf("DBGrid1 RowTouched"), 1);
+    EXPECT_EQ(this->currentCall(FrmAnzeigen.DBGrid1), "YO7CCC");
+}
+
+REGISTER_TYPED_TEST_SUITE_P(OperatingRules, AClickOnAChosenOptionRunsItsHandler,
+                            AClickChoosesAnOptionBeforeItsHandlerRuns, AValueSetByTheProgramRunsNoHandler,
+                            CheckBoxesTurnWithEachClickAndSpace, SpaceAndEnterPressAButton, SpaceChoosesAnOption,
+                            AKeyThatAHandlerStoppedPressesNothing, ArrowsChooseAmongTheOptionsOfAFrame,
+                            ArrowsChooseInAList, ADoubleClickGivesTheFocusFirst, WhatIsSwitchedOffTakesNoLetter,
+                            TabLeadsThroughTheSetUpPageInItsOrder, ShiftAndTabLeadBack,
+                            TabMovesNothingByItselfOnTheEntryForm, AltAndTheMarkedLetterClick,
+                            F1OpensHelpWhereNoHandlerTakesIt, HelpOpensAtTheNumberOfTheForm, CtrlAndArrowsMoveInTheGrid,
+                            CtrlAndDeleteTouchTheRow, ADoubleClickTouchesARowOfTheEntryForm,
+                            AClickTouchesARowOfTheReviewForm);
+
+}  // namespace test
