@@ -1,7 +1,7 @@
 #include "entry/time_fields.h"
 
 #include "base/text.h"
-#include "platform/keys.h"
+#include "entry/field_keys.h"
 #include "runstate/modul1.h"
 #include "screen/frm_qso.h"
 
@@ -17,17 +17,8 @@ constexpr std::size_t dayAndMonthLength = 5;
 constexpr std::size_t almostWholeTime = 4;
 constexpr std::size_t almostWholeDate = 7;
 
-std::size_t trimmedLength(const screen::TextBox& box)
-{
-    return base::length(base::trim(box.Text));
-}
-
-void markNextField(int keyCode)
-{
-    FrmQSO.NextField = keyCode == platform::keyTab || keyCode == platform::keySpace ? 100 : 0;
-}
-
-void toCall()
+/// The caret goes behind the call as it was taken, not behind what the field shows.
+void toTakenCall()
 {
     FrmQSO.txtIndic.SetFocus();
     FrmQSO.txtIndic.SelStart = base::length(Modul1.Indic);
@@ -45,7 +36,7 @@ void finishDate()
 {
     FrmQSO.CmdEnterCall.Enabled = true;
     Modul1.DateOff = FrmQSO.TxtDate.Text;
-    toCall();
+    toTakenCall();
 }
 
 void finishTime()
@@ -53,12 +44,12 @@ void finishTime()
     FrmQSO.NextField = 0;
     FrmQSO.CmdEnterCall.Enabled = true;
     Modul1.TimeOff = FrmQSO.TxtUTC.Text;
-    if (Modul1.OfflineInput != 100) return toCall();
+    if (Modul1.OfflineInput != 100) return toTakenCall();
     FrmQSO.TimeDone = 100;
     if (base::trim(FrmQSO.TxtRSTR2.Text).empty())
         FrmQSO.TxtRSTR2.SetFocus();
     else
-        toCall();
+        toTakenCall();
 }
 
 }  // namespace
@@ -105,7 +96,7 @@ void TxtDate_KeyDown(int& KeyCode)
     if (length == dayLength || length == dayAndMonthLength) return appendSeparator(FrmQSO.TxtDate, ".");
     if (length < almostWholeDate) return;
     Modul1.DateOff = FrmQSO.TxtDate.Text;
-    toCall();
+    toTakenCall();
 }
 
 void TxtDate_KeyPress(char32_t& /*KeyAscii*/)

@@ -1,8 +1,8 @@
 #include "platform/text_file.h"
 
+#include <array>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <system_error>
 
 #include "base/number.h"
@@ -28,6 +28,19 @@ bool diskIsFull(const fs::path& folder)
     return !unknown && space.available == 0;
 }
 
+/// Everything from here to the end. A device that fails leaves the stream bad, as a folder in the file's place does.
+std::string bytesOf(std::ifstream& file)
+{
+    constexpr std::size_t blockSize = 65536;
+    std::string bytes;
+    std::array<char, blockSize> block{};
+    do {
+        file.read(block.data(), block.size());
+        bytes.append(block.data(), static_cast<std::size_t>(file.gcount()));
+    } while (file);
+    return bytes;
+}
+
 }  // namespace
 
 std::string readTextFile(std::string_view designPath)
@@ -36,8 +49,9 @@ std::string readTextFile(std::string_view designPath)
     std::error_code ignored;
     if (!fs::exists(path, ignored)) throw base::RuntimeError(base::noSuchFile, nameOf(path) + " is not there");
     std::ifstream file(path, std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    if (!file) throw base::RuntimeError(base::existsOrNoAccess, nameOf(path) + " cannot be read");
+    const std::string bytes = bytesOf(file);
+    if (!file.is_open() || file.bad())
+        throw base::RuntimeError(base::existsOrNoAccess, nameOf(path) + " cannot be read");
     return base::fromWindows1250(bytes);
 }
 

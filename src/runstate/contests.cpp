@@ -72,7 +72,7 @@ constexpr Contest catalogue[] = {
     {6, &FrmInitForm::OpBTelecom, "Ziua Telecom", "Ziua Telecom", "TlcUUS", "TlcUUS", "Ziua Telecom", telecom,
      againTelecom},
     {7, &FrmInitForm::OpBMaraton, "Lugoj Maraton", "Lugoj Maraton", "MaratonYO2", "MaratonYO2", "Lugoj Maraton",
-     marathon, againNothing},
+     marathon, marathon},
     {8, &FrmInitForm::OpbZPV, "Zi de vara", "Zi de vara", "ZiVara", "ZiVara", "Zi de vara", summerDay, againOnePass},
     {100, &FrmInitForm::OpBCampInternUUS, "Camp.Internat.UUS", "Camp.Internat.UUS", "YODxUUS", "YODxUUS",
      "Camp. Internat. UUS", international, againInternational},
@@ -103,13 +103,18 @@ void nameOnlyBand(std::uint16_t contest)
     FrmQSO.CmdFm.Visible = true;
 }
 
-/// The Maraton contest exchanges names too.
-void showNames(std::uint16_t contest)
+/// The Maraton contest exchanges names too: the own one on the set-up page, both on the entry form.
+void askForName(std::uint16_t contest)
 {
     if (contest != maraton) return;
     FrmInit.TxtMyName.Visible = true;
     FrmInit.LblMyName.Visible = true;
     FrmInit.TxtMyName.SetFocus();
+}
+
+void showNames(std::uint16_t contest)
+{
+    if (contest != maraton) return;
     FrmQSO.takeMaratonPlaces();
     FrmQSO.TxtYourName.Visible = true;
     FrmQSO.TxtMyName.Visible = true;
@@ -146,6 +151,7 @@ void choose(std::uint16_t id)
     presetSerial(id);
     applyPage(contest.page);
     nameOnlyBand(id);
+    askForName(id);
     showNames(id);
     layOutEntryForm();
 }
@@ -253,6 +259,8 @@ void restorePage()
     if (contest == nullptr) return;
     applyPage(contest->reloadedPage);
     nameOnlyBand(contest->id);
+    showNames(contest->id);
+    layOutEntryForm();
     const bool wasChosen = !Modul1.ConcShort.empty();
     if (wasChosen) FrmQSO.LblConc.Caption = contest->shownName;
 }

@@ -104,8 +104,8 @@ class BoxText {
 
     BoxText& operator=(const std::string& text);
     BoxText& operator=(const char* text) { return *this = std::string(text); }
-    operator const std::string&() const { return value_; }  // NOLINT(google-explicit-constructor): it is that text
-    operator std::string_view() const { return value_; }    // NOLINT(google-explicit-constructor): it is that text
+    operator const std::string&() const { return value_; }
+    operator std::string_view() const { return value_; }  
     const std::string& get() const { return value_; }
 
     /// Changes the text as editing does, leaving the caret to the caller.
@@ -162,7 +162,7 @@ class OptionValue {
     OptionValue& operator=(const OptionValue& other) { return *this = other.chosen_; }
     ~OptionValue() = default;
     OptionValue& operator=(bool chosen);
-    operator bool() const { return chosen_; }  // NOLINT(google-explicit-constructor): it is that flag
+    operator bool() const { return chosen_; }
 
  private:
     OptionButton& option_;
