@@ -9,7 +9,6 @@
 #include "runstate/modul1.h"
 #include "screen/frm_init.h"
 #include "screen/frm_qso.h"
-#include "support/form_expectations.h"
 #include "support/running_program.h"
 
 namespace {
@@ -121,6 +120,16 @@ void expectPage(const PageRow& page)
     expectScoreRows(page.scoreRows);
 }
 
+/// The names in the exchange, and room for them.
+void expectNames(bool exchanged)
+{
+    EXPECT_EQ(FrmQSO.TxtMyName.Visible, exchanged);
+    EXPECT_EQ(FrmQSO.TxtYourName.Visible, exchanged);
+    EXPECT_EQ(FrmQSO.LblRSTe.Caption, exchanged ? "RSTS CODS QTHLocS  NameS" : "RSTS CODS QTHLOCS");
+    EXPECT_EQ(FrmQSO.LblRSTR.Caption, exchanged ? "   RSTR CODR QTHLocR  NameR" : "      RSTR CODR QTHLOCR");
+    EXPECT_EQ(FrmQSO.TxtYourName.Top == FrmQSO.TxtRSTr3.Top, exchanged) << "in one row with the report";
+}
+
 class Contests : public testing::Test {
  protected:
     /// A fresh run, and a click on the contest.
@@ -128,12 +137,6 @@ class Contests : public testing::Test {
     {
         program.restart();
         program.click(buttonOf(id));
-    }
-
-    void clickAll(std::initializer_list<screen::Control*> controls)
-    {
-        for (screen::Control* control : controls)
-            program.click(*control);
     }
 
     /// A fresh run up to the entry form.
@@ -277,13 +280,16 @@ TEST_F(Contests, CarryTheSerialToTheEntryForm)
         const char* on432;
         const char* on1296;
     } rows[] = {
-        {2, "000", "000", "000"},   {5, "000", "000", "000"}, {8, "000", "000", "000"},
-        {100, "000", "000", "000"}, {1, "0", "000", "000"},
+        {1, "012", "000", "000"}, {2, "034", "034", "034"}, {3, "034", "000", "000"},
+        {5, "034", "034", "034"}, {8, "034", "034", "034"}, {100, "034", "034", "034"},
     };
-    writeStation("12");
     for (const auto& row : rows) {
         SCOPED_TRACE(row.id);
-        enter(row.id);
+        writeStation("12");
+        choose(row.id);
+        EXPECT_EQ(FrmInit.TxtRpNr.Text, row.id == 1 ? "12" : "000");
+        if (row.id != 1) FrmInit.TxtRpNr.Text = "34";
+        program.click(FrmInit.mnuQSOfahren);
         EXPECT_EQ(FrmQSO.LblCod.Caption, row.on144);
         EXPECT_EQ(FrmQSO.LblCod432.Caption, row.on432);
         EXPECT_EQ(FrmQSO.LblCod1296.Caption, row.on1296);
@@ -292,16 +298,11 @@ TEST_F(Contests, CarryTheSerialToTheEntryForm)
 
 TEST_F(Contests, OfNamesShowThem)
 {
-    const auto expectNames = [](bool there) {
-        for (const screen::Control* control : std::initializer_list<const screen::Control*>{
-                 &FrmInit.TxtMyName, &FrmInit.LblMyName, &FrmQSO.TxtMyName, &FrmQSO.TxtYourName})
-            EXPECT_EQ(control->Visible, there) << control->form.name << '.' << control->name;
-        EXPECT_EQ(FrmQSO.LblRSTe.Caption, there ? "RSTS CODS QTHLocS  NameS" : "RSTS CODS QTHLOCS");
-        EXPECT_EQ(FrmQSO.LblRSTR.Caption, there ? "   RSTR CODR QTHLocR  NameR" : "      RSTR CODR QTHLOCR");
-    };
     for (const NamesRow& row : names) {
         SCOPED_TRACE(row.id);
         choose(row.id);
+        EXPECT_EQ(FrmInit.TxtMyName.Visible, row.id == 7);
+        EXPECT_EQ(FrmInit.LblMyName.Visible, row.id == 7);
         expectNames(row.id == 7);
     }
 }
@@ -446,16 +447,16 @@ TEST_F(Contests, OfTheWorldLeaveAClosedFieldAlone)
 
 constexpr PageRow pagesLoadedAgain[] = {
     //   bands               stages modes       band stage prompt                   score
-    {0, "144 432 1296", "", threeModes, 432, "B", "Select  BAND and MODE", 1455, 2},
-    {1, "(144)", "AB", fourModes, 144, "B", "SELECT MODE SI ETAPA", 1455, 2},
-    {2, "144 432 1296", "", threeModes, 432, "B", pickBand, 1815, 3},
-    {3, "144 432 1296", "", threeModes, 432, "B", pickBand, 1815, 3},
+    {0, "144 432 1296", "", threeModes, 432, "", "Select  BAND and MODE", 1455, 2},
+    {1, "(144)", "AB", fourModes, 144, "", "SELECT MODE SI ETAPA", 1455, 2},
+    {2, "144 432 1296", "", threeModes, 432, "", pickBand, 1815, 3},
+    {3, "144 432 1296", "", threeModes, 432, "", pickBand, 1815, 3},
     {4, "(144)", "", threeModes, 144, "A", "SELECT MODE ", 1455, 1},
-    {5, "144 432 1296", "", threeModes, 432, "B", pickBand, 1815, 3},
-    {6, "(144)", "AB", threeModes, 144, "B", "SELECT MODE SI ETAPA", 1455, 2},
-    {7, "144 432 1296", "", threeModes, 432, "B", "Select  BAND and MODE", 1815, 3},
-    {8, "144 432 1296", "", threeModes, 432, "B", pickBand, 1815, 3},
-    {100, "144 432 1296 GHz", "", fourModes, 432, "B", pickBand, 2215, 4},
+    {5, "144 432 1296", "", threeModes, 432, "", pickBand, 1815, 3},
+    {6, "(144)", "AB", threeModes, 144, "", "SELECT MODE SI ETAPA", 1455, 2},
+    {7, "144 432 1296", "", threeModes, 432, "", "Select  BAND and MODE", 1815, 3},
+    {8, "144 432 1296", "", threeModes, 432, "", pickBand, 1815, 3},
+    {100, "144 432 1296 GHz", "", fourModes, 432, "", pickBand, 2215, 4},
     {101, "(6m)", "", threeModes, 144, "A", "SELECT MODE ", 1455, 1},
 };
 
@@ -465,10 +466,12 @@ TEST_F(Contests, SetUpAnEntryFormThatIsLoadedAgain)
         SCOPED_TRACE(page.id);
         enter(page.id);
         Modul1.BandCur = 432;
-        Modul1.Etapa = "B";
+        const std::string shownName = FrmQSO.LblConc.Caption;
         FrmQSO.Unload();
         screen::load(FrmQSO);
         expectPage(page);
+        expectNames(page.id == 7);
+        EXPECT_EQ(FrmQSO.LblConc.Caption, shownName);
         EXPECT_FALSE(FrmQSO.Visible);
     }
 }
@@ -519,7 +522,7 @@ TEST_F(Contests, AreRestoredOnTheWayBack)
         EXPECT_FALSE(FrmInit.FraConcurs.Visible);
         EXPECT_EQ(FrmInit.TxtRpNr.Visible, row.serial != nullptr);
         EXPECT_EQ(FrmInit.LblRpNr.Visible, row.serial != nullptr);
-        if (row.serial != nullptr) EXPECT_EQ(FrmInit.TxtRpNr.Text, row.serial);
+        EXPECT_EQ(FrmInit.TxtRpNr.Text, row.serial != nullptr ? row.serial : FrmInit.TxtRpNr.Text.get());
         const bool namesExchanged = row.id == 7;
         EXPECT_EQ(FrmInit.TxtMyName.Visible, namesExchanged);
         EXPECT_EQ(FrmInit.LblMyName.Visible, namesExchanged);

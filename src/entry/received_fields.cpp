@@ -173,7 +173,9 @@ void TxtRSTr3_KeyPress(char32_t& KeyAscii)
     FrmQSO.CwRepBreak = 100;
     KeyAscii = base::upper(KeyAscii);
     if (FrmQSO.NextField != 100) return;
-    if (takeLocator()) toCall();
+    // Where it is not taken the release of the key empties the field once more, of the blank that Space left there.
+    if (!takeLocator()) return;
+    toCall();
     FrmQSO.NextField = 0;
 }
 

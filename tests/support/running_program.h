@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "app/program.h"
 #include "runstate/modul1.h"
@@ -29,11 +30,12 @@ class RunningProgram : private app::EntrySource {
     {
         program_.reset();
         machine_.beginRun("");
-        program_.emplace(machine_.drivers(), *this, nullptr);
+        app::EntrySource& entries = *this;
+        program_.emplace(machine_.drivers(), entries, nullptr);
         program_->start();
     }
 
-    /// What a hidden or disabled control does not do.
+    /// Nothing happens at a hidden or disabled control.
     void click(screen::Control& control) { program_->handle(app::ControlClicked{&control}); }
 
     /// Changes the log behind the back of the program.

@@ -1,0 +1,121 @@
+#include "app/operating.h"
+
+#include <algorithm>
+#include <iterator>
+#include <vector>
+
+#include "platform/machine.h"
+
+namespace app {
+
+using platform::Key;
+using screen::Control;
+using screen::Kind;
+
+namespace {
+
+/// An option next to `option` in its frame, in the order of the page.
+Control* neighbourOption(const Control& option, bool backwards)
+{
+    std::vector<Control*> options;
+    for (Control* control : option.form.controls())
+        if (control->kind == Kind::optionButton && control->container == option.container && control->canTakeFocus())
+            options.push_back(control);
+    if (backwards) std::reverse(options.begin(), options.end());
+    const auto at = std::find(options.begin(), options.end(), &option);
+    if (at == options.end() || options.size() < 2) return nullptr;
+    return std::next(at) == options.end() ? options.front() : *std::next(at);
+}
+
+screen::Grid* gridInView()
+{
+    screen::Form* form = screen::activeForm();
+    if (form == nullptr) return nullptr;
+    for (Control* control : form->controls())
+        if (control->kind == Kind::grid && control->seen()) return static_cast<screen::Grid*>(control);
+    return nullptr;
+}
+
+void moveInGrid(screen::Grid& grid, bool up)
+{
+    storage::RecordSet& rows = grid.data->Recordset;
+    if (!rows.isOpen() || !rows.currentKey()) return;
+    const std::int64_t stood = *rows.currentKey();
+    if (up)
+        rows.MovePrevious();
+    else
+        rows.MoveNext();
+    if (!rows.currentKey()) rows.moveTo(stood);
+}
+
+}  // namespace
+
+void choose(Control& control)
+{
+    if (control.kind == Kind::optionButton) static_cast<screen::OptionButton&>(control).Value = true;
+    if (control.kind == Kind::checkBox) {
+        auto& box = static_cast<screen::CheckBox&>(control);
+        box.Value = box.Value == 0 ? 1 : 0;
+    }
+    if (control.Click != nullptr) run(control.Click);
+}
+
+Control* nextStop(const screen::Form& form, const Control* from, bool backwards)
+{
+    std::vector<Control*> stops;
+    std::copy_if(
+        form.controls().begin(), form.controls().end(), std::back_inserter(stops),
+        [&](const Control* control) { return control == from || (control->TabStop && control->canTakeFocus()); });
+    if (backwards) std::reverse(stops.begin(), stops.end());
+    auto at = std::find(stops.begin(), stops.end(), from);
+    if (at != stops.end()) {
+        std::rotate(stops.begin(), std::next(at), stops.end());
+        stops.pop_back();
+    }
+    return stops.empty() ? nullptr : stops.front();
+}
+
+void operate(Control& control, const Key& key)
+{
+    const bool presses =
+        key.code == platform::keySpace || (key.code == platform::keyEnter && control.kind == Kind::commandButton);
+    if (presses && control.kind != Kind::listBox) return choose(control);
+    const bool backwards = key.code == platform::keyUp || key.code == platform::keyLeft;
+    const bool forwards = key.code == platform::keyDown || key.code == platform::keyRight;
+    if (!backwards && !forwards) return;
+    if (control.kind == Kind::optionButton) {
+        Control* neighbour = neighbourOption(control, backwards);
+        if (neighbour == nullptr) return;
+        neighbour->SetFocus();
+        return choose(*neighbour);
+    }
+    if (control.kind == Kind::listBox) {
+        auto& list = static_cast<screen::ListBox&>(control);
+        const int wanted = list.ListIndex + (backwards ? -1 : 1);
+        if (wanted < 0 || wanted >= static_cast<int>(list.items.size())) return;
+        list.ListIndex = wanted;
+        if (list.Click != nullptr) run(list.Click);
+    }
+}
+
+bool actsOnGrid(const Key& key)
+{
+    const bool arrow = key.code == platform::keyUp || key.code == platform::keyDown;
+    if (!key.ctrl || (!arrow && key.code != platform::keyDelete)) return false;
+    screen::Grid* grid = gridInView();
+    if (grid == nullptr) return true;
+    if (arrow)
+        run([&] { moveInGrid(*grid, key.code == platform::keyUp); });
+    else if (grid->RowTouched != nullptr)
+        run(grid->RowTouched);
+    return true;
+}
+
+void openHelp()
+{
+    const screen::Form* form = screen::activeForm();
+    if (form == nullptr || form->HelpContextID == 0) return;
+    platform::machine().help.open(form->HelpContextID);
+}
+
+}  // namespace app

@@ -1,0 +1,35 @@
+// What keys and clicks do to a page beyond the events of its fields: buttons, options, lists, the rows of a grid, the
+// walk of Tab, help.
+#pragma once
+
+#include <utility>
+
+#include "base/runtime_error.h"
+#include "platform/keys.h"
+#include "screen/form.h"
+
+namespace app {
+
+/// Runs a handler: an error that leaves it ends it, becomes a notice, and touches nothing else.
+template <typename Handler>
+void run(Handler&& handler)
+{
+    base::quietly<base::noCurrentRecord>(std::forward<Handler>(handler));
+}
+
+/// A click: an option is chosen, a check box changes over, and Click runs.
+void choose(screen::Control& control);
+
+/// The control that Tab leads to from `from` among the stops of the form, nullptr when there is no other.
+screen::Control* nextStop(const screen::Form& form, const screen::Control* from, bool backwards);
+
+/// What a key does to a button, an option, a check box or a list that has the focus.
+void operate(screen::Control& control, const platform::Key& key);
+
+/// Ctrl with an arrow or Delete acts on the rows in view, wherever the focus is. False for other keys.
+bool actsOnGrid(const platform::Key& key);
+
+/// Opens the help at the number of the form on the screen.
+void openHelp();
+
+}  // namespace app
