@@ -40,6 +40,7 @@ void commit(benchmark::State& state, bool known)
 {
     const bench::Folder folder;
     test::fillLog(folder.path(), "Uus144a", static_cast<int>(state.range(0)));
+    test::fillMemory(folder.path(), static_cast<int>(state.range(0)));
     constexpr int mostQsos = 20000;
     if (known) {
         test::PlainLog memory(folder.path() / "DbsKelvo.mdb");

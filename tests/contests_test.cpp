@@ -9,154 +9,44 @@
 #include "runstate/modul1.h"
 #include "screen/frm_init.h"
 #include "screen/frm_qso.h"
-#include "support/running_program.h"
+#include "support/contest_pages.h"
 
 namespace {
 
+using Contests = test::ContestChoice;
 using screen::FrmInitForm;
+using test::bandsInView;
+using test::buttonOf;
+using test::expectNames;
+using test::expectPage;
+using test::expectScoreRows;
+using test::fourModes;
+using test::PageRow;
+using test::pickBand;
+using test::pickStage;
+using test::threeModes;
 
 struct NamesRow {
     int id;
     screen::OptionButton FrmInitForm::*button;
-    const char* title;          ///< LblTypTest
-    const char* restoredTitle;  ///< LblTypTest on the way back
-    const char* shownName;      ///< LblConc
-    const char* shortName;      ///< ConcShort
+    const char* title;      ///< LblTypTest
+    const char* shownName;  ///< LblConc
+    const char* shortName;  ///< ConcShort
     const char* reportName;
 };
 
 constexpr NamesRow names[] = {
-    {0, &FrmInitForm::OpBCampNatUUS, "Camp. Nat. UUS", "Camp.Nat.UUS", "YOVHF/UHF", "YOVHFUHF",
-     "CAMPIONATELE NATIONALE UUS"},
-    {1, &FrmInitForm::OpbCarpati, "Trofeul Carpati", "Trofeul Carpati", "Carpati", "Carpati", "TROFEUL CARPATI "},
-    {2, &FrmInitForm::OpbCluj, "Conc.Cluj Napoca", "Conc.Cluj Napoca", "ConcCluj", "ConcCluj", "Concurs Cluj Napoca"},
-    {3, &FrmInitForm::OpBFloareademina, "Floarea de mina", "Floarea de mina", "Floare", "Floare", "Floarea de mina"},
-    {4, &FrmInitForm::OpbOltenia, "Oltenia 144 MHz", "Oltenia 144 MHz", "Olt144", "Oltenia", "Oltenia 144 MHz"},
-    {5, &FrmInitForm::OpBConstrMas, "Constructor masini", "Constructor masini", "Masini", "Masini",
-     "Constructor masini "},
-    {6, &FrmInitForm::OpBTelecom, "Ziua Telecom", "Ziua Telecom", "TlcUUS", "TlcUUS", "Ziua Telecom"},
-    {7, &FrmInitForm::OpBMaraton, "Lugoj Maraton", "Lugoj Maraton", "MaratonYO2", "MaratonYO2", "Lugoj Maraton"},
-    {8, &FrmInitForm::OpbZPV, "Zi de vara", "Zi de vara", "ZiVara", "ZiVara", "Zi de vara"},
-    {100, &FrmInitForm::OpBCampInternUUS, "Camp.Internat.UUS", "Camp.Internat.UUS", "YODxUUS", "YODxUUS",
-     "Camp. Internat. UUS"},
-    {101, &FrmInitForm::OpbOltenia6m, "Oltenia 6 m.", "Oltenia 6 m", "Olt6m", "Oltenia6m", "Oltenia 6 m"},
-};
-
-screen::OptionButton& buttonOf(int id)
-{
-    return FrmInit.*runstate::contestById(id)->button;
-}
-
-/// The entry form as a contest leaves it.
-struct PageRow {
-    int id;
-    const char* bands;   ///< those in view; one in brackets cannot be clicked
-    const char* stages;  ///< in view
-    const char* modes;   ///< in view
-    int band;            ///< BandCur
-    const char* stage;   ///< Etapa
-    const char* prompt;
-    double scoreHeight;  ///< of Frame2, twips of the design screen
-    int scoreRows;
-};
-
-std::string bandsInView()
-{
-    std::string text;
-    for (const screen::CommandButton* button : {&FrmQSO.Cmd144, &FrmQSO.Cmd432, &FrmQSO.Cmd1296, &FrmQSO.CmdGHz}) {
-        if (!button->Visible) continue;
-        if (!text.empty()) text += ' ';
-        text += button->Enabled ? button->Caption : "(" + button->Caption + ")";
-    }
-    return text;
-}
-
-std::string stagesInView()
-{
-    return std::string(FrmQSO.CmdA.Visible ? "A" : "") + (FrmQSO.CmdB.Visible ? "B" : "");
-}
-
-std::string modesInView()
-{
-    std::string text;
-    for (const screen::CommandButton* button : {&FrmQSO.CmdSSB, &FrmQSO.CmdCW, &FrmQSO.CmdFm, &FrmQSO.CmdMixt})
-        if (button->Visible) text += (text.empty() ? "" : " ") + button->Caption;
-    return text;
-}
-
-struct ScoreRow {
-    const screen::Label& band;
-    const screen::Label& points;
-    const screen::Label& qsos;
-};
-
-void expectScoreRows(int count)
-{
-    const ScoreRow rows[] = {
-        {FrmQSO.LblBand, FrmQSO.LblPkt, FrmQSO.LblQSO},
-        {FrmQSO.LblBand1, FrmQSO.LblPkt1, FrmQSO.LblQSO1},
-        {FrmQSO.LblBand2, FrmQSO.LblPkt2, FrmQSO.LblQSO2},
-        {FrmQSO.LblBand3, FrmQSO.LblPkt3, FrmQSO.LblQSO3},
-    };
-    int row = 0;
-    for (const ScoreRow& labels : rows) {
-        EXPECT_EQ(labels.band.Visible, row < count) << row;
-        EXPECT_EQ(labels.points.Visible, row < count) << row;
-        EXPECT_EQ(labels.qsos.Visible, row < count) << row;
-        ++row;
-    }
-}
-
-void expectPage(const PageRow& page)
-{
-    EXPECT_EQ(bandsInView(), page.bands);
-    EXPECT_EQ(stagesInView(), page.stages);
-    EXPECT_EQ(modesInView(), page.modes);
-    EXPECT_EQ(Modul1.BandCur, page.band);
-    EXPECT_EQ(Modul1.Etapa, page.stage);
-    EXPECT_EQ(FrmQSO.LblAnunt.Caption, page.prompt);
-    EXPECT_DOUBLE_EQ(FrmQSO.Frame2.design.Height, page.scoreHeight);
-    EXPECT_TRUE(FrmQSO.Lbl144.Visible);
-    expectScoreRows(page.scoreRows);
-}
-
-/// The names in the exchange, and room for them.
-void expectNames(bool exchanged)
-{
-    EXPECT_EQ(FrmQSO.TxtMyName.Visible, exchanged);
-    EXPECT_EQ(FrmQSO.TxtYourName.Visible, exchanged);
-    EXPECT_EQ(FrmQSO.LblRSTe.Caption, exchanged ? "RSTS CODS QTHLocS  NameS" : "RSTS CODS QTHLOCS");
-    EXPECT_EQ(FrmQSO.LblRSTR.Caption, exchanged ? "   RSTR CODR QTHLocR  NameR" : "      RSTR CODR QTHLOCR");
-    EXPECT_EQ(FrmQSO.TxtYourName.Top == FrmQSO.TxtRSTr3.Top, exchanged) << "in one row with the report";
-}
-
-class Contests : public testing::Test {
- protected:
-    /// A fresh run, and a click on the contest.
-    void choose(int id)
-    {
-        program.restart();
-        program.click(buttonOf(id));
-    }
-
-    /// A fresh run up to the entry form.
-    void enter(int id)
-    {
-        choose(id);
-        program.click(FrmInit.OpbTest);
-        FrmInit.TxtMyName.Text = "ION";
-        FrmInit.txtMyQRA.Text = "KN05OS";
-        program.click(FrmInit.mnuQSOfahren);
-    }
-
-    void writeStation(const std::string& serial)
-    {
-        test::writeFile(
-            program.folder() / "KelvoInit.dat",
-            "YO2XYZ\r\nKN05OS\r\n2\r\n " + serial + " \r\n\r\n\r\n 0 \r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\nION\r\n");
-    }
-
-    test::RunningProgram program;
+    {0, &FrmInitForm::OpBCampNatUUS, "Camp. Nat. UUS", "YOVHF/UHF", "YOVHFUHF", "CAMPIONATELE NATIONALE UUS"},
+    {1, &FrmInitForm::OpbCarpati, "Trofeul Carpati", "Carpati", "Carpati", "TROFEUL CARPATI "},
+    {2, &FrmInitForm::OpbCluj, "Conc.Cluj Napoca", "ConcCluj", "ConcCluj", "Concurs Cluj Napoca"},
+    {3, &FrmInitForm::OpBFloareademina, "Floarea de mina", "Floare", "Floare", "Floarea de mina"},
+    {4, &FrmInitForm::OpbOltenia, "Oltenia 144 MHz", "Olt144", "Oltenia", "Oltenia 144 MHz"},
+    {5, &FrmInitForm::OpBConstrMas, "Constructor masini", "Masini", "Masini", "Constructor masini "},
+    {6, &FrmInitForm::OpBTelecom, "Ziua Telecom", "TlcUUS", "TlcUUS", "Ziua Telecom"},
+    {7, &FrmInitForm::OpBMaraton, "Lugoj Maraton", "MaratonYO2", "MaratonYO2", "Lugoj Maraton"},
+    {8, &FrmInitForm::OpbZPV, "Zi de vara", "ZiVara", "ZiVara", "Zi de vara"},
+    {100, &FrmInitForm::OpBCampInternUUS, "Camp.Internat.UUS", "YODxUUS", "YODxUUS", "Camp. Internat. UUS"},
+    {101, &FrmInitForm::OpbOltenia6m, "Oltenia 6 m.", "Olt6m", "Oltenia6m", "Oltenia 6 m"},
 };
 
 TEST_F(Contests, AreEleven)
@@ -198,11 +88,6 @@ TEST_F(Contests, ClickedAskForTheOperatingMode)
         EXPECT_FALSE(program.box());
     }
 }
-
-constexpr const char* threeModes = "SSB CW Fm";
-constexpr const char* fourModes = "SSB CW Fm Mixt";
-constexpr const char* pickBand = "SELECT MOD SI BANDA";
-constexpr const char* pickStage = "SELECT MOD SI ETAPA";
 
 constexpr PageRow pages[] = {
     //   bands               stages modes       band stage prompt                   score
@@ -441,131 +326,6 @@ TEST_F(Contests, OfTheWorldLeaveAClosedFieldAlone)
     FrmQSO.TxtRez.SetFocus();
     entry::YoIn();
     EXPECT_EQ(FrmQSO.ActiveControl, &FrmQSO.TxtRez);
-}
-
-// ---- The entry form loaded again
-
-constexpr PageRow pagesLoadedAgain[] = {
-    //   bands               stages modes       band stage prompt                   score
-    {0, "144 432 1296", "", threeModes, 432, "", "Select  BAND and MODE", 1455, 2},
-    {1, "(144)", "AB", fourModes, 144, "", "SELECT MODE SI ETAPA", 1455, 2},
-    {2, "144 432 1296", "", threeModes, 432, "", pickBand, 1815, 3},
-    {3, "144 432 1296", "", threeModes, 432, "", pickBand, 1815, 3},
-    {4, "(144)", "", threeModes, 144, "A", "SELECT MODE ", 1455, 1},
-    {5, "144 432 1296", "", threeModes, 432, "", pickBand, 1815, 3},
-    {6, "(144)", "AB", threeModes, 144, "", "SELECT MODE SI ETAPA", 1455, 2},
-    {7, "144 432 1296", "", threeModes, 432, "", "Select  BAND and MODE", 1815, 3},
-    {8, "144 432 1296", "", threeModes, 432, "", pickBand, 1815, 3},
-    {100, "144 432 1296 GHz", "", fourModes, 432, "", pickBand, 2215, 4},
-    {101, "(6m)", "", threeModes, 144, "A", "SELECT MODE ", 1455, 1},
-};
-
-TEST_F(Contests, SetUpAnEntryFormThatIsLoadedAgain)
-{
-    for (const PageRow& page : pagesLoadedAgain) {
-        SCOPED_TRACE(page.id);
-        enter(page.id);
-        Modul1.BandCur = 432;
-        const std::string shownName = FrmQSO.LblConc.Caption;
-        FrmQSO.Unload();
-        screen::load(FrmQSO);
-        expectPage(page);
-        expectNames(page.id == 7);
-        EXPECT_EQ(FrmQSO.LblConc.Caption, shownName);
-        EXPECT_FALSE(FrmQSO.Visible);
-    }
-}
-
-// ---- The way back to the set-up page
-
-struct WayBackRow {
-    int id;
-    int band;
-    const char* serial;  ///< TxtRpNr; nullptr when it is hidden
-};
-
-constexpr WayBackRow waysBack[] = {
-    {0, 144, "011"},   {0, 432, "011"},   {0, 1296, "011"},   {1, 144, "011"},    {2, 144, "011"},
-    {2, 432, "022"},   {2, 1296, "033"},  {3, 144, "011"},    {3, 432, "011"},    {3, 1296, "011"},
-    {4, 144, "011"},   {5, 144, "011"},   {5, 432, "022"},    {5, 1296, "033"},   {6, 144, "011"},
-    {7, 144, nullptr}, {7, 432, nullptr}, {8, 144, "011"},    {8, 432, "022"},    {8, 1296, "033"},
-    {100, 144, "011"}, {100, 432, "011"}, {100, 1296, "011"}, {100, 2320, "011"}, {101, 144, "011"},
-};
-
-const char* restoredTitle(int id)
-{
-    for (const NamesRow& row : names)
-        if (row.id == id) return row.restoredTitle;
-    return "";
-}
-
-TEST_F(Contests, AreRestoredOnTheWayBack)
-{
-    for (const WayBackRow& row : waysBack) {
-        SCOPED_TRACE(std::to_string(row.id) + " on " + std::to_string(row.band));
-        enter(row.id);
-        Modul1.BandCur = row.band;
-        FrmQSO.LblCod.Caption = "011";
-        FrmQSO.LblCod432.Caption = "022";
-        FrmQSO.LblCod1296.Caption = "033";
-        FrmQSO.LblCodGhz.Caption = "044";
-        const std::string shownName = FrmQSO.LblConc.Caption;
-        const std::string shortName = Modul1.ConcShort;
-        program.click(FrmQSO.mnuAnfang);
-
-        EXPECT_TRUE(FrmInit.Visible);
-        EXPECT_FALSE(FrmQSO.Visible);
-        EXPECT_EQ(Modul1.ConcReturn, 100);
-        EXPECT_EQ(Modul1.ConcId, row.id);
-        EXPECT_EQ(FrmInit.LblTypTest.Caption, restoredTitle(row.id));
-        EXPECT_FALSE(FrmInit.FrmConcurs.Visible);
-        EXPECT_FALSE(FrmInit.FraConcurs.Visible);
-        EXPECT_EQ(FrmInit.TxtRpNr.Visible, row.serial != nullptr);
-        EXPECT_EQ(FrmInit.LblRpNr.Visible, row.serial != nullptr);
-        EXPECT_EQ(FrmInit.TxtRpNr.Text, row.serial != nullptr ? row.serial : FrmInit.TxtRpNr.Text.get());
-        const bool namesExchanged = row.id == 7;
-        EXPECT_EQ(FrmInit.TxtMyName.Visible, namesExchanged);
-        EXPECT_EQ(FrmInit.LblMyName.Visible, namesExchanged);
-        EXPECT_EQ(FrmInit.ActiveControl, namesExchanged ? &FrmInit.TxtMyName : &FrmInit.TxtRpNr);
-        EXPECT_EQ(FrmQSO.LblMixt.Visible, row.id != 6);
-        EXPECT_EQ(FrmQSO.LblConc.Caption, shownName);
-        EXPECT_EQ(Modul1.ConcShort, shortName);
-    }
-}
-
-TEST_F(Contests, OfOneBandComeBackToIt)
-{
-    for (const NamesRow& row : names) {
-        SCOPED_TRACE(row.id);
-        enter(row.id);
-        Modul1.BandCur = 0;
-        program.click(FrmQSO.mnuAnfang);
-        EXPECT_EQ(Modul1.BandCur, row.id == 1 || row.id == 4 || row.id == 6 ? 144 : 0);
-    }
-}
-
-TEST_F(Contests, WithoutMixtKeepItHiddenOnTheWayBack)
-{
-    enter(6);
-    FrmQSO.CmdMixt.Visible = true;
-    program.click(FrmQSO.mnuAnfang);
-    EXPECT_FALSE(FrmQSO.CmdMixt.Visible);
-    enter(8);
-    program.click(FrmQSO.mnuAnfang);
-    EXPECT_TRUE(FrmQSO.CmdMixt.Visible);
-}
-
-TEST_F(Contests, AreLeftByTheEndOfTheRunOnly)
-{
-    enter(4);
-    program.click(FrmQSO.mnuAnfang);
-    program.click(FrmInit.OpBCampInternUUS);
-    EXPECT_EQ(Modul1.ConcId, 4);
-    program.restart();
-    EXPECT_EQ(Modul1.ConcId, 0);
-    EXPECT_EQ(Modul1.BandCur, 0);
-    EXPECT_TRUE(FrmInit.FrmConcurs.Visible);
-    EXPECT_FALSE(FrmInit.FraConcurs.Visible);
 }
 
 }  // namespace

@@ -60,8 +60,7 @@ void IndicInfoDublYO2()
     base::quietly<base::noCurrentRecord>([] {
         Modul1.Indic = base::trim(base::upper(Modul1.Indic));
         if (Modul1.Indic.empty()) return;
-        ask("SELECT * FROM UusLGYO2 WHERE Callsign='" + Modul1.Indic + "' and Bnd='" + Modul1.BandYO + "' and Data='" +
-            Modul1.DateQso + "'; ");
+        ask(storage::maratonRowsOfCall(Modul1.Indic, Modul1.BandYO, Modul1.DateQso));
         if (!FrmQSO.UusLGYO2.Recordset.IsEof()) return entry::Rosu();
         entry::Verde();
         learnName();

@@ -1,7 +1,7 @@
 // The statement texts of the log tables and of the locator memory, with their exact blanks.
 //
-// Values stand between single quotes and are not escaped: a quote in a field breaks the statement, which is then
-// refused as a whole (error 5).
+// Values stand between single quotes and are not escaped: a quote in a value breaks the statement, whatever stands behind
+// it. Each of these functions raises error 5 for such a value.
 #pragma once
 
 #include <span>
@@ -42,6 +42,9 @@ std::string zeroPointsOfCall(std::string_view table, std::string_view call);
 
 /// The Maraton log of one band.
 std::string maratonLogOfBand(std::string_view band);
+
+/// QSOs of one call in the Maraton log on one band and day.
+std::string maratonRowsOfCall(std::string_view call, std::string_view band, std::string_view date);
 
 /// The entry of a call in the locator memory.
 std::string locatorOfCall(std::string_view call);

@@ -48,17 +48,20 @@ void PlainLog::execute(const std::string& statement)
 void fillLog(const fs::path& folder, std::string_view table, int rows)
 {
     PlainLog log(folder / "LogKelvo.mdb");
-    PlainLog memory(folder / "DbsKelvo.mdb");
     log.execute("BEGIN");
-    memory.execute("BEGIN");
-    for (int row = 0; row < rows; ++row) {
-        const std::string call = callNumber(row);
+    for (int row = 0; row < rows; ++row)
         log.execute("INSERT INTO " + std::string(table) +
-                    " (Callsign, Data, UTC, Sent, Rcvd, Mode, Freq, QRALoc, Pct) VALUES ('" + call +
+                    " (Callsign, Data, UTC, Sent, Rcvd, Mode, Freq, QRALoc, Pct) VALUES ('" + callNumber(row) +
                     "','15.11.26','12:34','599 001','599 002','CW','144','KN16AA','163')");
-        memory.execute("INSERT INTO QRA (Call, QRA_LOC) VALUES ('" + call + "','KN16AA')");
-    }
     log.execute("COMMIT");
+}
+
+void fillMemory(const fs::path& folder, int calls)
+{
+    PlainLog memory(folder / "DbsKelvo.mdb");
+    memory.execute("BEGIN");
+    for (int call = 0; call < calls; ++call)
+        memory.execute("INSERT INTO QRA (Call, QRA_LOC) VALUES ('" + callNumber(call) + "','KN16AA')");
     memory.execute("COMMIT");
 }
 

@@ -14,8 +14,11 @@ struct sqlite3;
 
 namespace test {
 
-/// Fills a log table with `rows` QSOs of different calls, and the locator memory with the same calls.
+/// Fills a log table with `rows` QSOs of different calls.
 void fillLog(const std::filesystem::path& folder, std::string_view table, int rows);
+
+/// Fills the locator memory with `calls` calls, beginning with those that fillLog() takes.
+void fillMemory(const std::filesystem::path& folder, int calls);
 
 /// A plain connection to the log with the settings that the program has, for the baselines.
 class PlainLog {
