@@ -199,7 +199,7 @@ void Engine::publish()
 
 void Engine::keyWentDown(const Key& key)
 {
-    if (isCharacterKey(key)) releaseEarlierCharacterKeys();
+    releaseEarlierCharacterKeys();
     // The release of this key may have gone to a window that is not ours.
     std::erase_if(downKeys_, [&](const DownKey& down) { return down.key.sameKeyAs(key); });
     const Addressee to = addressee();
@@ -227,8 +227,9 @@ void Engine::keyWentUp(const Key& key)
     if (reachedField) deliverKeyUp(pressed);
 }
 
-/// A fast operator presses the next letter before the last one is up: the earlier release comes first, so that what it
-/// sets off (the third digit of a code moves on) happens before the new letter looks for its field.
+/// A fast operator presses the next key before the last letter is up: the earlier release comes first, so that what it
+/// sets off happens before the new key looks for its field. The third digit of a code moves on before the letter behind
+/// it, and the last letter of a locator before the Enter that logs the QSO.
 void Engine::releaseEarlierCharacterKeys()
 {
     std::vector<DownKey> earlier;

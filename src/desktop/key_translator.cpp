@@ -1,6 +1,7 @@
 #include "desktop/key_translator.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace desktop {
 
@@ -108,33 +109,43 @@ std::optional<platform::PolledKey> polledKeyOf(const QKeyEvent& event)
 }
 
 /// By the place on the keyboard where the system tells it: the name of a key changes with Shift.
-bool KeyTranslator::DownKey::isKeyOf(const QKeyEvent& event) const
+bool KeyTranslator::ToolkitKey::isKeyOf(const QKeyEvent& event) const
 {
     if (scanCode != 0 && event.nativeScanCode() != 0) return scanCode == event.nativeScanCode();
-    return toolkitKey == event.key();
+    return code == event.key();
+}
+
+std::vector<KeyTranslator::DownKey>::iterator KeyTranslator::downKeyOf(const QKeyEvent& event)
+{
+    return std::find_if(down_.begin(), down_.end(), [&](const DownKey& key) { return key.toolkitKey.isKeyOf(event); });
+}
+
+bool KeyTranslator::isRepeat(const QKeyEvent& press) const
+{
+    if (press.isAutoRepeat()) return true;
+    return lastRelease_ && lastRelease_->instant != 0 && lastRelease_->instant == press.timestamp() &&
+           lastRelease_->toolkitKey.isKeyOf(press);
 }
 
 KeyTranslator::Entries KeyTranslator::keyDown(const QKeyEvent& event)
 {
-    const bool continuesHeld =
-        held_ && held_->key.isKeyOf(event) && held_->instant != 0 && held_->instant == event.timestamp();
-    if (continuesHeld) {
-        const DownKey same = held_->key;
-        held_.reset();
+    if (held_ && held_->toolkitKey.isKeyOf(event) && isRepeat(event)) {
+        const DownKey same = *std::exchange(held_, std::nullopt);
         down_.push_back(same);
         return {app::KeyWentDown{same.key, true}};
     }
 
     Entries entries = turned();
-    const auto down = std::find_if(down_.begin(), down_.end(), [&](const DownKey& key) { return key.isKeyOf(event); });
-    if (event.isAutoRepeat()) {
+    const auto down = downKeyOf(event);
+    if (isRepeat(event)) {
+        // Not down any more: it came up before its repeat was seen. That is over, whatever the key does now.
         if (down != down_.end()) entries.push_back(app::KeyWentDown{down->key, true});
         return entries;
     }
     if (down != down_.end()) down_.erase(down);  // its release went to another window
     const platform::Key key = keyOf(event);
     if (key.code == platform::keyNone && key.character == 0) return entries;
-    down_.push_back({event.nativeScanCode(), event.key(), key});
+    down_.push_back({{event.nativeScanCode(), event.key()}, key});
     entries.push_back(app::KeyWentDown{key, false});
     return entries;
 }
@@ -142,10 +153,11 @@ KeyTranslator::Entries KeyTranslator::keyDown(const QKeyEvent& event)
 KeyTranslator::Entries KeyTranslator::keyUp(const QKeyEvent& event)
 {
     if (event.isAutoRepeat()) return {};
-    const auto down = std::find_if(down_.begin(), down_.end(), [&](const DownKey& key) { return key.isKeyOf(event); });
+    lastRelease_ = Release{{event.nativeScanCode(), event.key()}, event.timestamp()};
+    const auto down = downKeyOf(event);
     if (down == down_.end()) return {};
     Entries entries = turned();
-    held_ = HeldRelease{*down, event.timestamp()};
+    held_ = *down;
     down_.erase(down);
     return entries;
 }
@@ -153,9 +165,7 @@ KeyTranslator::Entries KeyTranslator::keyUp(const QKeyEvent& event)
 KeyTranslator::Entries KeyTranslator::turned()
 {
     if (!held_) return {};
-    const platform::Key key = held_->key.key;
-    held_.reset();
-    return {app::KeyWentUp{key}};
+    return {app::KeyWentUp{std::exchange(held_, std::nullopt)->key}};
 }
 
 KeyTranslator::Entries KeyTranslator::allUp()

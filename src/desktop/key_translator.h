@@ -26,12 +26,16 @@ class KeyTranslator {
     /// A key went down in the form: what the program gets for it.
     Entries keyDown(const QKeyEvent& event);
 
-    /// A key came up, anywhere. It is kept back until the event loop has turned, because a press of the same key at
-    /// the same instant makes a repeat of both.
+    /// A key came up, anywhere. It is kept back for a moment, because a press of the same key at the same instant makes
+    /// a repeat of both.
     Entries keyUp(const QKeyEvent& event);
 
-    /// The event loop has turned: the release that was kept back.
+    /// The moment has passed: the release that was kept back.
     Entries turned();
+
+    /// A press that continues one: the toolkit says so, or the key came up at this very instant. The toolkit says so
+    /// only when it sees both events together.
+    bool isRepeat(const QKeyEvent& press) const;
 
     /// Another application has the keyboard: releases of all keys that went down in the form.
     Entries allUp();
@@ -40,21 +44,28 @@ class KeyTranslator {
     bool holdsRelease() const { return held_.has_value(); }
 
  private:
-    /// A key that is down: how the toolkit knows it, and what it was when it went down.
-    struct DownKey {
+    /// How the toolkit knows a key.
+    struct ToolkitKey {
         quint32 scanCode = 0;
-        int toolkitKey = 0;
-        platform::Key key;
+        int code = 0;
 
         bool isKeyOf(const QKeyEvent& event) const;
     };
-    struct HeldRelease {
-        DownKey key;
+    /// A key that is down, and what it was when it went down.
+    struct DownKey {
+        ToolkitKey toolkitKey;
+        platform::Key key;
+    };
+    struct Release {
+        ToolkitKey toolkitKey;
         quint64 instant = 0;
     };
 
+    std::vector<DownKey>::iterator downKeyOf(const QKeyEvent& event);
+
     std::vector<DownKey> down_;
-    std::optional<HeldRelease> held_;
+    std::optional<DownKey> held_;  ///< its release is kept back
+    std::optional<Release> lastRelease_;
 };
 
 }  // namespace desktop

@@ -7,6 +7,10 @@ namespace desktop {
 
 namespace {
 
+/// How long a release waits for a press at the same instant. Some systems tell the two one after the other, and other
+/// programs may run in between.
+constexpr int releaseMilliseconds = 10;
+
 bool isPaste(const QKeyEvent& event)
 {
     return event.key() == Qt::Key_V && event.modifiers() == Qt::ControlModifier;
@@ -18,7 +22,7 @@ Keyboard::Keyboard(QWidget& form, PolledKeys& polledKeys, Poster post)
     : form_(form), polledKeys_(polledKeys), post_(std::move(post))
 {
     turn_.setSingleShot(true);
-    turn_.setInterval(0);
+    turn_.setInterval(releaseMilliseconds);
     connect(&turn_, &QTimer::timeout, this, [this] { this->post(translator_.turned()); });
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state != Qt::ApplicationActive) letGo();
@@ -60,7 +64,7 @@ bool Keyboard::isForForm(const QKeyEvent& event) const
 void Keyboard::wentDown(const QKeyEvent& event)
 {
     if (isPaste(event)) {
-        if (!event.isAutoRepeat()) post_(app::TextPasted{QGuiApplication::clipboard()->text().toStdString()});
+        if (!translator_.isRepeat(event)) post_(app::TextPasted{QGuiApplication::clipboard()->text().toStdString()});
         return;
     }
     const auto polled = polledKeyOf(event);
