@@ -23,7 +23,7 @@ class Keyboard final : public QObject {
     /// Letters that open a menu together with Alt, as capitals: these stay with the menu bar.
     void setMenuLetters(const QString& letters) { menuLetters_ = letters; }
 
-    /// A release waits for the event loop to turn.
+    /// A release is kept back for a moment.
     bool holdsRelease() const { return translator_.holdsRelease(); }
 
     bool eventFilter(QObject* watched, QEvent* event) override;

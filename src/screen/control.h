@@ -105,7 +105,7 @@ class BoxText {
     BoxText& operator=(const std::string& text);
     BoxText& operator=(const char* text) { return *this = std::string(text); }
     operator const std::string&() const { return value_; }
-    operator std::string_view() const { return value_; }  
+    operator std::string_view() const { return value_; }
     const std::string& get() const { return value_; }
 
     /// Changes the text as editing does, leaving the caret to the caller.

@@ -1,7 +1,7 @@
 // The statement texts of the log tables and of the locator memory, with their exact blanks.
 //
-// Values stand between single quotes and are not escaped: a quote in a value breaks the statement, whatever stands behind
-// it. Each of these functions raises error 5 for such a value.
+// Values stand between single quotes and are not escaped: a quote in a value breaks the statement, whatever stands
+// behind it. Each of these functions raises error 5 for such a value.
 #pragma once
 
 #include <span>

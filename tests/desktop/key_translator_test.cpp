@@ -129,7 +129,7 @@ TEST(KeyTranslatorTest, KeysOfTheSystemAreNobodys)
     EXPECT_EQ(told(up(translator, Stroke{Qt::Key_Shift})), "");
 }
 
-TEST(KeyTranslatorTest, AReleaseComesWhenTheEventLoopHasTurned)
+TEST(KeyTranslatorTest, AReleaseIsKeptBackForAMoment)
 {
     KeyTranslator translator;
     const Stroke a{Qt::Key_A, "a", Qt::NoModifier, 38, 100};
@@ -154,6 +154,33 @@ TEST(KeyTranslatorTest, ReleaseAndPressAtOneInstantAreARepeat)
     EXPECT_EQ(told(down(translator, a)), "ra");
     up(translator, a);
     EXPECT_EQ(told(translator.turned()), "^a");
+}
+
+TEST(KeyTranslatorTest, ARepeatThatIsSeenTooLateIsNoPress)
+{
+    KeyTranslator translator;
+    Stroke tab{Qt::Key_Tab, "\t", Qt::NoModifier, 23, 100};
+    down(translator, tab);
+    tab.instant = 600;
+    up(translator, tab);
+    EXPECT_EQ(told(translator.turned()), "^9");
+    EXPECT_EQ(told(down(translator, tab)), "");
+    tab.instant = 640;
+    EXPECT_EQ(told(up(translator, tab)), "");
+    EXPECT_EQ(told(down(translator, tab)), "") << "and so are those behind it";
+    tab.instant = 700;
+    EXPECT_EQ(told(up(translator, tab)), "");
+    EXPECT_FALSE(translator.holdsRelease());
+    tab.instant = 800;
+    EXPECT_EQ(told(down(translator, tab)), "v9");
+}
+
+TEST(KeyTranslatorTest, ARepeatOfAKeyThatWentDownElsewhereIsNoPress)
+{
+    KeyTranslator translator;
+    const Stroke enter{Qt::Key_Return, "\r", Qt::NoModifier, 36, 600};
+    EXPECT_EQ(told(up(translator, enter)), "");
+    EXPECT_EQ(told(down(translator, enter)), "");
 }
 
 TEST(KeyTranslatorTest, TheSameKeyTwiceIsNoRepeat)
