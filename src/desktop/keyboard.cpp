@@ -41,6 +41,9 @@ bool Keyboard::eventFilter(QObject* watched, QEvent* event)
             return true;
         }
         case QEvent::KeyPress:
+            // A key that is held answers no message box: neither the one that it raised, nor the next one.
+            if (QApplication::activeModalWidget() != nullptr)
+                return translator_.isRepeat(*static_cast<QKeyEvent*>(event));
             if (!onForm || !isForForm(*static_cast<QKeyEvent*>(event))) return false;
             wentDown(*static_cast<QKeyEvent*>(event));
             return true;

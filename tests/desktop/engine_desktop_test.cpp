@@ -55,6 +55,29 @@ TEST_F(WindowRules, AKeyThatRepeatsOverABoxTypesNothing)
     EXPECT_EQ(FrmInit.TxtMyCall.Text.get(), "a");
 }
 
+TEST_F(WindowRules, AKeyThatIsHeldDoesNotAnswerTheBoxThatItRaised)
+{
+    startIn(FrmInit.TxtMyCall);
+    onKeyDown(FrmInit.TxtMyCall, [](int& /*code*/) { platform::msgBox("Falsche Eingabe"); });
+    keepBoxesOpen();
+    down("Enter");
+    ASSERT_NE(program().box(), nullptr);
+    repeatOver(program().box()->windowHandle(), Qt::Key_Return, QStringLiteral("\r"), 5);
+    ASSERT_NE(program().box(), nullptr);
+    // Not every system marks its repeats: a release and a press at one instant are one too.
+    for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress}) {
+        QKeyEvent event(type, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
+        event.setTimestamp(1000000000);
+        QCoreApplication::sendEvent(program().box()->windowHandle(), &event);
+    }
+    ASSERT_TRUE(program().waitUntilIdle());
+    ASSERT_NE(program().box(), nullptr);
+    pressInBox("Enter");
+    EXPECT_EQ(program().box(), nullptr);
+    up("Enter");
+    EXPECT_EQ(countOf("TxtMyCall KeyDown 13"), 1);
+}
+
 TEST_F(WindowRules, TheKeyThatClosedABoxRepeatsIntoNothing)
 {
     startWithBox();

@@ -10,6 +10,7 @@ work=$(mktemp -d)
 station=$work/station
 server=
 program=
+window=
 
 # Nothing stays behind, whatever happens.
 clean_up() {
@@ -104,7 +105,8 @@ press_button() {
 Xvfb -displayfd 3 -screen 0 "${screen_width}x${screen_height}x24" -nolisten tcp 3>"$work/display" >"$work/server.log" 2>&1 &
 server=$!
 wait_for "the X server" server_is_ready
-export DISPLAY=":$(cat "$work/display")"
+DISPLAY=":$(cat "$work/display")"
+export DISPLAY
 export QT_QPA_PLATFORM=xcb
 # Fonts and the window system keep what they allocate.
 export ASAN_OPTIONS="detect_leaks=0:${ASAN_OPTIONS:-}"
@@ -113,9 +115,9 @@ mkdir "$station"
 "$programs/kelvo-newdb" "$station" >/dev/null
 "$programs/kelvo" --folder "$station" >"$work/program.log" 2>&1 &
 program=$!
-window=$(timeout 30 xdotool search --sync --onlyvisible --name '^Kelvo$' | head -n 1)
+window=$(timeout 30 xdotool search --sync --onlyvisible --name '^Kelvo$' | head -n 1) || true
 [ -n "$window" ] || fail "no window"
-give_keyboard "$window"
+wait_for "the keyboard in the window" give_keyboard "$window"
 
 step="choosing the contest by the keyboard"
 xdotool key Tab Tab Tab Tab space
@@ -123,6 +125,17 @@ xdotool key alt+o
 keyboard_to_box
 xdotool key Return
 keyboard_to_form
+
+step="holding Enter where it raises a box"
+xdotool keydown Return
+keyboard_to_box
+sleep 1
+xdotool keyup Return
+box_is_open || fail "the key that raised the box answered it too"
+xdotool key Return
+keyboard_to_form
+
+step="filling the page"
 typed yo2xyz
 xdotool key Return
 typed kn05os

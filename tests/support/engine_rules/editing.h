@@ -121,8 +121,10 @@ TYPED_TEST_P(EditingRules, APasteReplacesTheSelectionAndTypesNoControlCharacters
 {
     this->startWith("abcd");
     this->strikeAll({"Home", "Shift+Right", "Shift+Right"});
+    this->takeLog();
     this->paste("x\ty\n");
     EXPECT_EQ(this->text(), "xycd");
+    EXPECT_EQ(this->takeLog(), Log({"TxtMyCall KeyPress 120", "TxtMyCall KeyPress 121"}));
 }
 
 TYPED_TEST_P(EditingRules, TypingCanBeTakenBack)
@@ -141,7 +143,7 @@ TYPED_TEST_P(EditingRules, TypingCanBeTakenBack)
 TYPED_TEST_P(EditingRules, ATextThatTheProgramSetsHasTheCaretInFront)
 {
     this->startWith("ab");
-    this->strike("Ctrl+a");
+    this->strike("Shift+Left");
     this->onKeyDown(FrmInit.TxtMyCall, [](int& code) {
         if (code == platform::keyF2) FrmInit.TxtMyCall.Text = "YO2";
     });

@@ -60,6 +60,7 @@ TYPED_TEST_P(EndingRules, AFormThatIsUnloadedInItsKeyPressGetsNoRepeats)
     this->up("a");
     EXPECT_EQ(screen::activeForm(), &FrmInit);
     EXPECT_EQ(this->countOf("txtIndic KeyDown 65"), 1);
+    EXPECT_EQ(FrmQSO.txtIndic.Text.get(), "");
     EXPECT_EQ(FrmInit.TxtRpNr.Text.get().find('A'), std::string::npos);
 }
 
@@ -82,6 +83,15 @@ TYPED_TEST_P(EndingRules, AFormThatIsLoadedAgainInItsKeyDownIsNewToTheKey)
     this->goTo(FrmInit.TxtMyCall);
     this->type("b");
     EXPECT_EQ(FrmInit.TxtMyCall.Text.get(), "b");
+}
+
+TYPED_TEST_P(EndingRules, AFormThatIsLoadedAgainInItsKeyPressTakesNoCharacter)
+{
+    this->startIn(FrmInit.TxtRpNr);
+    this->onKeyPress(FrmInit.TxtRpNr, [this](char32_t& /*character*/) { this->loadAgain(); });
+    this->strike("1");
+    EXPECT_EQ(screen::activeForm(), &FrmInit);
+    EXPECT_EQ(FrmInit.TxtRpNr.Text.get(), "");
 }
 
 TYPED_TEST_P(EndingRules, AFormThatIsLoadedAgainUnderAKeyThatIsHeldGetsNoRepeats)
@@ -334,6 +344,7 @@ TYPED_TEST_P(EndingRules, ErrorsLeaveEverySlotAlike)
 REGISTER_TYPED_TEST_SUITE_P(EndingRules, AFormThatIsUnloadedInItsKeyDownGetsNothingMoreOfTheKey,
                             AFormThatIsUnloadedInItsKeyPressGetsNoRepeats,
                             AFormThatIsLoadedAgainInItsKeyDownIsNewToTheKey,
+                            AFormThatIsLoadedAgainInItsKeyPressTakesNoCharacter,
                             AFormThatIsLoadedAgainUnderAKeyThatIsHeldGetsNoRepeats, AFormThatIsUnloadedInItsClick,
                             AFormThatIsLoadedAgainInItsClick, AFormThatIsLoadedAgainWhileEventsAreServed,
                             AFormThatIsLoadedAgainInItsTimer, APasteEndsWithItsForm, AHandlerMayEndTheProgram,

@@ -116,17 +116,19 @@ TYPED_TEST_P(FocusRules, HiddenAndDisabledFieldsDoNotTakeIt)
 {
     this->startWithThreeFields();
     this->watch(FrmInit.TxtF1);
+    this->goTo(FrmInit.TxtTime);
     ASSERT_FALSE(FrmInit.FramTxtCw.Visible);
-    this->onKeyDown(FrmInit.TxtMyCall, [](int& /*code*/) {
-        FrmInit.txtMyQRA.Visible = false;
-        FrmInit.txtMyQRA.SetFocus();
-        FrmInit.TxtTime.Enabled = false;
-        FrmInit.TxtTime.SetFocus();
-        FrmInit.TxtF1.SetFocus();  // its frame is hidden
+    this->onKeyDown(FrmInit.TxtTime, [this](int& /*code*/) {
+        FrmInit.TxtMyCall.Visible = false;
+        FrmInit.txtMyQRA.Enabled = false;
+        for (screen::TextBox* box : {&FrmInit.TxtMyCall, &FrmInit.txtMyQRA, &FrmInit.TxtF1}) {
+            box->SetFocus();
+            EXPECT_EQ(this->focusedName(), "TxtTime");
+        }
     });
     this->strike("a");
-    EXPECT_EQ(this->focusedName(), "TxtMyCall");
-    EXPECT_EQ(this->takeLog(), Log({"TxtMyCall KeyDown 65", "TxtMyCall KeyPress 97", "TxtMyCall KeyUp 65"}));
+    EXPECT_EQ(this->focusedName(), "TxtTime");
+    EXPECT_EQ(this->takeLog(), Log({"TxtTime KeyDown 65", "TxtTime KeyPress 97", "TxtTime KeyUp 65"}));
 }
 
 TYPED_TEST_P(FocusRules, AFieldHiddenBehindTheFocusGetsNoGotFocus)

@@ -154,6 +154,7 @@ TYPED_TEST_P(OperatingRules, ArrowsChooseAmongTheOptionsOfAFrame)
     this->goTo(FrmInit.OpbCwJ);
     this->strike("Down");
     EXPECT_EQ(this->focusedName(), "OpbCwJ") << "the other one is off";
+    EXPECT_FALSE(this->noted("OpbCwN Click"));
 }
 
 TYPED_TEST_P(OperatingRules, ArrowsChooseInAList)

@@ -189,6 +189,30 @@ TYPED_TEST_P(RepeatRules, AKeyThatReachedNoFieldHasNoKeyUp)
     EXPECT_EQ(this->takeLog(), Log({"txtIndic KeyDown 66", "txtIndic KeyPress 98", "txtIndic KeyUp 66"}));
 }
 
+TYPED_TEST_P(RepeatRules, AKeyThatReachedNoFieldComesUpUnheardBeforeTheNextToo)
+{
+    this->startAndOpenEntry();
+    this->watch(FrmQSO.txtIndic);
+    this->goTo(FrmQSO.txtIndic);
+    FrmQSO.txtIndic.Enabled = false;
+    this->down("a");
+    FrmQSO.txtIndic.Enabled = true;
+    this->down("b");
+    this->up("a");
+    this->up("b");
+    EXPECT_EQ(this->takeLog(), Log({"txtIndic KeyDown 66", "txtIndic KeyPress 98", "txtIndic KeyUp 66"}));
+}
+
+TYPED_TEST_P(RepeatRules, AKeyWhoseReleaseWasLostGoesDownAgain)
+{
+    this->startIn(FrmInit.TxtMyCall);
+    this->down("F2");
+    this->down("F2");
+    this->up("F2");
+    this->up("F2");
+    EXPECT_EQ(this->takeLog(), Log({"TxtMyCall KeyDown 113", "TxtMyCall KeyDown 113", "TxtMyCall KeyUp 113"}));
+}
+
 TYPED_TEST_P(RepeatRules, KeysThatOverlapComeUpBeforeTheNextGoesDown)
 {
     this->startIn(FrmInit.TxtMyCall);
@@ -211,6 +235,16 @@ TYPED_TEST_P(RepeatRules, EveryKeyLetsTheLetterBeforeItComeUpFirst)
     this->up("a");
     EXPECT_EQ(this->takeLog(), Log({"TxtMyCall KeyDown 65", "TxtMyCall KeyPress 97", "TxtMyCall KeyUp 65",
                                     "TxtMyCall KeyDown 113", "TxtMyCall KeyUp 113"}));
+}
+
+TYPED_TEST_P(RepeatRules, ALetterWithCtrlComesUpInItsOwnTime)
+{
+    this->startIn(FrmInit.TxtMyCall);
+    this->down("Ctrl+k");
+    this->strike("a");
+    this->up("Ctrl+k");
+    EXPECT_EQ(this->takeLog(), Log({"TxtMyCall KeyDown 75", "TxtMyCall KeyDown 65", "TxtMyCall KeyPress 97",
+                                    "TxtMyCall KeyUp 65", "TxtMyCall KeyUp 75"}));
 }
 
 TYPED_TEST_P(RepeatRules, TheLetterBehindThreeRolledDigitsLandsInTheNextField)
@@ -302,9 +336,10 @@ REGISTER_TYPED_TEST_SUITE_P(RepeatRules, CharactersRepeatInEveryFieldOfTheSetUpP
                             KeysThatActOnceOnTheEntryForm, ATabThatIsHeldMovesOneFieldOnTheSetUpPage,
                             ASpaceThatIsHeldLeavesOneBlank, EditingKeysRepeat, RepeatsStopWhereTheFocusHasMoved,
                             AKeyThatMovesTheFocusDoesNotRepeatIntoTheNextField, AKeyThatReachedNoFieldHasNoKeyUp,
+                            AKeyThatReachedNoFieldComesUpUnheardBeforeTheNextToo, AKeyWhoseReleaseWasLostGoesDownAgain,
                             KeysThatOverlapComeUpBeforeTheNextGoesDown, EveryKeyLetsTheLetterBeforeItComeUpFirst,
-                            TheLetterBehindThreeRolledDigitsLandsInTheNextField, RolledDigitsMoveOnInTheEntryForm,
-                            AThirdDigitThatIsHeldMovesOnWhenItComesUp, TabHeldInTheCallFieldTakesTheCallOnce,
-                            AltAndALetterActOnce);
+                            ALetterWithCtrlComesUpInItsOwnTime, TheLetterBehindThreeRolledDigitsLandsInTheNextField,
+                            RolledDigitsMoveOnInTheEntryForm, AThirdDigitThatIsHeldMovesOnWhenItComesUp,
+                            TabHeldInTheCallFieldTakesTheCallOnce, AltAndALetterActOnce);
 
 }  // namespace test
