@@ -218,7 +218,7 @@ TEST(Multiplier, IsAnnouncedForTheseCellsOnly)
         for (const long band : {0L, 1L, 144L, 432L, 1296L, 2320L, 76000L}) {
             const auto cell = announced.find({contest, band});
             const std::optional<int> expected = cell == announced.end() ? std::nullopt : std::optional(cell->second);
-            EXPECT_EQ(geo::bandMultiplier(contest, band), expected) << contest << " on " << band;
+            EXPECT_EQ(geo::MultBand(contest, band), expected) << contest << " on " << band;
         }
 }
 

@@ -85,7 +85,7 @@ bool isRomanianCall(std::string_view call)
     return std::find(prefixes.begin(), prefixes.end(), call.substr(0, 2)) != prefixes.end();
 }
 
-std::optional<int> bandMultiplier(int contest, long bandMHz)
+std::optional<int> MultBand(int contest, long bandMHz)
 {
     for (const MultiplierRow& row : multiplierRows)
         if (row.contest == contest && row.band == bandMHz) return row.multiplier;

@@ -27,7 +27,7 @@ PointsRule pointsFor(int contest, long bandMHz, long km);
 bool isRomanianCall(std::string_view call);
 
 /// Band multiplier that the summary announces; nothing where none is announced.
-std::optional<int> bandMultiplier(int contest, long bandMHz);
+std::optional<int> MultBand(int contest, long bandMHz);
 
 /// `Qrb` to `PctCur`.
 void ClcPct();
