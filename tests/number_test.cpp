@@ -4,19 +4,11 @@
 #include <gtest/gtest.h>
 
 #include "base/runtime_error.h"
+#include "support/error_of.h"
 
 namespace {
 
-template <typename Work>
-int errorOf(Work&& work)
-{
-    try {
-        work();
-    } catch (const base::RuntimeError& error) {
-        return error.number();
-    }
-    return 0;
-}
+using test::errorOf;
 
 TEST(NumericValue, ReadsUpToTheFirstOtherCharacter)
 {

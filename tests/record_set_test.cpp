@@ -12,6 +12,7 @@
 #include "storage/connection.h"
 #include "storage/database.h"
 #include "storage/schema.h"
+#include "support/error_of.h"
 #include "support/power_cut_vfs.h"
 #include "support/temporary_folder.h"
 
@@ -21,16 +22,7 @@ using storage::RecordSet;
 using storage::Row;
 using Texts = std::vector<std::string>;
 
-template <typename Statement>
-int errorOf(Statement&& statement)
-{
-    try {
-        statement();
-        return 0;
-    } catch (const base::RuntimeError& error) {
-        return error.number();
-    }
-}
+using test::errorOf;
 
 /// Column 1 (`Callsign`) of all rows from the current one on.
 Texts callsFromHere(RecordSet& rows)

@@ -12,6 +12,7 @@
 #include "runstate/modul1.h"
 #include "screen/frm_init.h"
 #include "screen/frm_qso.h"
+#include "support/error_of.h"
 #include "support/running_program.h"
 #include "support/temporary_folder.h"
 
@@ -48,16 +49,7 @@ const std::string fullStation =
     "2M5WL\r\n19 EL\r\n35 EL\r\nDISH 1.2 M\r\nCS XY\r\nION\r\n";
 const std::string fullMessages = "CQ TEST DE #1\r\n#2 599#3 #4\r\nTU\r\nQRZ? DE #1\r\nAGN?\r\nQRX\r\n73 SK\r\n 4 \r\n";
 
-template <typename Work>
-int errorOf(Work&& work)
-{
-    try {
-        work();
-    } catch (const base::RuntimeError& error) {
-        return error.number();
-    }
-    return 0;
-}
+using test::errorOf;
 
 class SetUpFiles : public testing::Test {
  protected:

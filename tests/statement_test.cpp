@@ -7,6 +7,7 @@
 #include "base/runtime_error.h"
 #include "storage/like_pattern.h"
 #include "storage/tokens.h"
+#include "support/error_of.h"
 
 namespace {
 
@@ -15,16 +16,7 @@ using storage::parseSelection;
 using storage::Selection;
 using storage::translateAction;
 
-template <typename Statement>
-int errorOf(Statement&& statement)
-{
-    try {
-        statement();
-        return 0;
-    } catch (const base::RuntimeError& error) {
-        return error.number();
-    }
-}
+using test::errorOf;
 
 int selectionError(const std::string& text)
 {

@@ -8,22 +8,14 @@
 
 #include "base/runtime_error.h"
 #include "platform/files.h"
+#include "support/error_of.h"
 #include "support/temporary_folder.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-template <typename Work>
-int errorOf(Work&& work)
-{
-    try {
-        work();
-    } catch (const base::RuntimeError& error) {
-        return error.number();
-    }
-    return 0;
-}
+using test::errorOf;
 
 class TextFile : public testing::Test {
  protected:
