@@ -19,8 +19,14 @@ echo "== the rules of a QSO"
 ./rules_bench "${interleaved[@]}"
 echo "== a big contest"
 ./contest_bench "${interleaved[@]}"
+echo "== reviewing a big log"
+./review_bench "${interleaved[@]}"
+echo "== a row deleted, and a paper log"
+./correction_bench "${interleaved[@]}"
 echo "== sleeping to a deadline (ms late)"
 ./deadline_bench
+echo "== keying (ms off)"
+./keying_bench
 echo "== memory (MB)"
 ./memory_bench empty
 ./memory_bench kelvo

@@ -15,10 +15,10 @@ check() {
     [ -z "$wrong" ] || { echo "$wrong"; failed=1; }
 }
 
-logic=(base platform storage screen runstate geo entry band)
+logic=(base platform storage screen runstate geo entry band keyer review)
 check base
 check platform base
-for folder in storage screen runstate geo entry band; do check "$folder" "${logic[@]}"; done
+for folder in storage screen runstate geo entry band keyer review; do check "$folder" "${logic[@]}"; done
 check app "${logic[@]}"
 check script "${logic[@]}" app
 check desktop "${logic[@]}" app
@@ -31,9 +31,9 @@ forbidden() {
     [ -z "$wrong" ] || { echo "$what:"; echo "$wrong"; failed=1; }
 }
 
-all=(base platform storage screen runstate geo entry band app script)
+all=(base platform storage screen runstate geo entry band keyer review app script)
 forbidden "Qt outside desktop/" '#include <(Q|Qt)[A-Z]' "${all[@]}"
-forbidden "SQLite outside storage/" 'sqlite3' base platform screen runstate geo entry band app script desktop
+forbidden "SQLite outside storage/" 'sqlite3' base platform screen runstate geo entry band keyer review app script desktop
 forbidden "System headers outside desktop/" \
     '#include <(unistd|fcntl|windows|pthread|signal|dirent|termios|poll|sys/[a-z]+)\.?h?>' "${all[@]}"
 

@@ -3,7 +3,7 @@
 # The compiler and the logic of the program.
 build_packages=(g++ cmake ninja-build libsqlite3-dev)
 # The desktop program.
-desktop_packages=(qt6-base-dev fonts-dejavu-core)
+desktop_packages=(qt6-base-dev qt6-serialport-dev libopenal-dev libasound2 fonts-dejavu-core)
 # Tests, checks and benchmarks; real keys into a real window.
 test_packages=(libgtest-dev libgmock-dev libbenchmark-dev clang-format clang-tidy xvfb xdotool sqlite3)
 

@@ -8,6 +8,8 @@
 #include <vector>
 
 #include "base/text.h"
+#include "review/page.h"
+#include "runstate/modul1.h"
 #include "screen/frm_anzeigen.h"
 #include "screen/frm_init.h"
 #include "screen/frm_qso.h"
@@ -39,7 +41,7 @@ using Alternatives = std::vector<Controls>;
 bool isDrawn(const Control& control)
 {
     if (control.kind == Kind::menuEntry || control.kind == Kind::data || control.kind == Kind::timer) return false;
-    if (control.kind == Kind::line) return false;
+    if (control.kind == Kind::line || control.kind == Kind::serial) return false;
     return control.kind != Kind::textBox || !static_cast<const screen::TextBox&>(control).parking;
 }
 
@@ -176,9 +178,114 @@ TEST_F(FormPlaces, EntryFormOfTheMaratonIsInOrder)
     EXPECT_EQ(FrmQSO.Frame2.Height, 1815);
 }
 
+TEST_F(FormPlaces, EntryFormOfTheMaratonIsInOrderWithoutTheRose)
+{
+    FrmQSO.Frame2.design.Height = 1815;
+    FrmQSO.takeMaratonPlaces(false);
+    FrmQSO.LblRSTe.Caption = "RSTS CODS QTHLocS  NameS";
+    FrmQSO.LblRSTR.Caption = "   RSTR CODR QTHLocR  NameR";
+    expectInOrder(FrmQSO, alternativesOfEntry(), neverInMaraton());
+    for (const Control* field : {&FrmQSO.TxtRSTR1, &FrmQSO.TxtRSTR2, &FrmQSO.TxtRSTr3, &FrmQSO.TxtYourName})
+        EXPECT_EQ(field->Top, 1500) << field->name;
+}
+
+/// Which jobs of the review form exclude each other. The frames to choose a band, the station data and the button that
+/// ends an input may be in view with any of them.
+Alternatives alternativesOfReview()
+{
+    const auto& f = FrmAnzeigen;
+    Controls logOrEdiPage = grids(f);
+    logOrEdiPage.insert({&f.FraLogEDI1, &f.FraLogEDI2});
+    Alternatives jobs{logOrEdiPage,
+                      {&f.Frame1, &f.Frame2, &f.Frame3, &f.Frame8, &f.FraArh},
+                      {&f.Frame4, &f.FraArh},
+                      {&f.Frame5, &f.FraArh}};
+    for (const Control* job : std::initializer_list<const Control*>{&f.Frame1, &f.Frame2, &f.Frame3, &f.Frame4,
+                                                                    &f.Frame5, &f.Frame8, &f.FraArh})
+        jobs.insert(jobs.end(), {{job, &f.FraLogEDI1}, {job, &f.FraLogEDI2}});
+    return jobs;
+}
+
+/// The buttons that the contest has taken away.
+Controls takenAway()
+{
+    Controls away;
+    for (const Control* control : FrmAnzeigen.controls())
+        if (!control->Visible && control->kind == Kind::optionButton) away.insert(control);
+    return away;
+}
+
 TEST_F(FormPlaces, ReviewFormIsInOrder)
 {
-    expectInOrder(FrmAnzeigen, {grids(FrmAnzeigen)}, {});
+    expectInOrder(FrmAnzeigen, alternativesOfReview(), takenAway());
+}
+
+TEST_F(FormPlaces, ReviewFormIsInOrderInEveryContest)
+{
+    for (const int contest : {0, 1, 2, 3, 4, 5, 6, 7, 8, 100, 101}) {
+        SCOPED_TRACE(contest);
+        screen::rebuild(FrmAnzeigen, FormLife::neverLoaded);
+        Modul1.ConcId = static_cast<std::uint16_t>(contest);
+        review::showViewButtons();
+        review::showEmptyingButtons();
+        review::showPrintButtons();
+        review::showEdiBands();
+        review::showDisketteBands();
+        Controls notOnThisPage = takenAway();
+        if (contest == 7) {
+            const auto& f = FrmAnzeigen;
+            FrmAnzeigen.takeMaratonPlaces();
+            notOnThisPage.insert({&f.Frame10, &f.FraBandEdi, &f.FraLogEDI1, &f.FraLogEDI2});
+        }
+        expectInOrder(FrmAnzeigen, alternativesOfReview(), notOnThisPage);
+    }
+    Modul1 = {};
+}
+
+/// The boxes and buttons of a frame stand as they are walked: row by row, from left to right.
+void expectReadingOrder(const Control& frame)
+{
+    const Control* before = nullptr;
+    for (const Control* control : FrmAnzeigen.controls()) {
+        if (control->container != &frame || control->kind == Kind::label) continue;
+        const Rectangle& at = control->design;
+        if (before != nullptr) {
+            const bool sameRow = at.Top == before->design.Top;
+            EXPECT_TRUE(sameRow ? at.Left > before->design.Left : at.Top > before->design.Top)
+                << before->name << " and " << control->name;
+        }
+        before = control;
+    }
+}
+
+TEST_F(FormPlaces, JobsOfTheReviewFormReadRowByRow)
+{
+    const auto& f = FrmAnzeigen;
+    for (const Control* frame :
+         std::initializer_list<const Control*>{&f.Frame1, &f.Frame2, &f.Frame4, &f.Frame5, &f.Frame8, &f.Frame10,
+                                               &f.FraBandEdi, &f.FraArh, &f.FraLogEDI1, &f.FraLogEDI2, &f.Frame6})
+        expectReadingOrder(*frame);
+}
+
+TEST_F(FormPlaces, ThePrintFrameReadsColumnByColumn)
+{
+    const auto& f = FrmAnzeigen;
+    const Control* const logs[] = {&f.OpBD144a, &f.OpBD144b, &f.OpBD432a, &f.OpBD432b, &f.OpBD1296a, &f.OpBD1296b};
+    for (std::size_t i = 1; i < std::size(logs); ++i)
+        EXPECT_GT(logs[i]->Top, logs[i - 1]->Top) << logs[i]->name;
+    EXPECT_EQ(f.OpBDSumm144.Top, f.OpBD144a.Top);
+    EXPECT_EQ(f.OpBDSumm432.Top, f.OpBD432a.Top);
+    EXPECT_EQ(f.OpbDSumm1296.Top, f.OpBD1296a.Top);
+}
+
+TEST_F(FormPlaces, TheButtonThatEndsAnInputMayMove)
+{
+    for (const double left : {4000.0, 7000.0}) {
+        FrmAnzeigen.CmdGata.place(left, FrmAnzeigen.CmdGata.Top, FrmAnzeigen.CmdGata.Width, FrmAnzeigen.CmdGata.Height);
+        expectInOrder(FrmAnzeigen, alternativesOfReview(), takenAway());
+    }
+    // Its place is not scaled then: on a screen of 640 pixels it still ends inside.
+    EXPECT_LE(7000 + FrmAnzeigen.CmdGata.Width * 0.8, 640 * 15);
 }
 
 TEST_F(FormPlaces, TwoRowsOfTheScoreFitTheLowFrame)

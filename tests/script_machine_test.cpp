@@ -363,7 +363,7 @@ std::vector<std::string> declaredVariables(const std::string& header, const std:
     return names;
 }
 
-TEST(ScriptState, KnowsEveryVariableOfTheRunStateAndOfTheEntryForm)
+TEST(ScriptState, KnowsEveryVariableOfTheRunStateAndOfTheForms)
 {
     const std::string types = "std::string|std::u?int\\d+_t|float|double";
     const std::vector<std::string> shared = declaredVariables("runstate/modul1.h", types);
@@ -376,6 +376,10 @@ TEST(ScriptState, KnowsEveryVariableOfTheRunStateAndOfTheEntryForm)
     EXPECT_GT(members.size(), 20U);
     for (const std::string& name : members)
         EXPECT_TRUE(script::stateVariable("FrmQSO." + name).has_value()) << name;
+    const std::vector<std::string> ofReview = declaredVariables("screen/frm_anzeigen.h", types);
+    EXPECT_GT(ofReview.size(), 10U);
+    for (const std::string& name : ofReview)
+        EXPECT_TRUE(script::stateVariable("FrmAnzeigen." + name).has_value()) << name;
     EXPECT_FALSE(script::stateVariable("DupLock").has_value());
     EXPECT_FALSE(script::stateVariable("FrmInit.BandCur").has_value());
 }

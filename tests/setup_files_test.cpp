@@ -401,6 +401,41 @@ TEST_F(SetUpFiles, HoldTheCharactersOfTheCodePage)
     }
 }
 
+TEST_F(SetUpFiles, GiveBytesBackAsTheyWere)
+{
+    for (int byte = 0; byte < 256; ++byte) {
+        const char character = static_cast<char>(byte);
+        if (character == ',' || character == '\r' || character == '\n') continue;
+        forget();
+        std::string bytes = fullStation;
+        bytes.insert(1, 1, character);
+        ASSERT_EQ(readStation(bytes), 0) << byte;
+        runstate::WriteInitDat();
+        EXPECT_EQ(written(initDat), bytes) << byte;
+    }
+}
+
+TEST_F(SetUpFiles, SayWhereTheyAreWrong)
+{
+    const auto complaint = [](void (*reader)()) {
+        try {
+            reader();
+        } catch (const base::RuntimeError& error) {
+            return std::string(error.what());
+        }
+        return std::string();
+    };
+    test::writeFile(folder.file(initDat), "YO2XYZ\r\nKN05OS\r\n2\r\nABC\r\n");
+    EXPECT_EQ(complaint(runstate::ReadInitDat), "KelvoInit.dat, value 4: \"ABC\" is not a number");
+    test::writeFile(folder.file(initDat), "YO2XYZ\r\nKN05OS\r\n2\r\n" + std::string(1000, 'X') + "\r\n");
+    EXPECT_EQ(complaint(runstate::ReadInitDat),
+              "KelvoInit.dat, value 4: \"" + std::string(40, 'X') + "...\" is not a number");
+    test::writeFile(folder.file(textCw), "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n7\r\n40000\r\n");
+    EXPECT_EQ(complaint(runstate::ReadTextCw), "KELVOTextCw.dat, value 8: \"40000\" is not between -32768 and 32767");
+    test::writeFile(folder.file(textCw), "1\r\n2\r\n");
+    EXPECT_EQ(complaint(runstate::ReadTextCw), "KELVOTextCw.dat, value 3: The file ends too early");
+}
+
 TEST_F(SetUpFiles, SayWhyTheyCannotBeWritten)
 {
     fs::create_directory(folder.file(initDat));

@@ -65,6 +65,18 @@ TEST_F(TextFile, SaysWhatIsMissing)
     EXPECT_FALSE(fs::exists(folder.path() / "taken.dat.new")) << "nothing half-written stays";
 }
 
+TEST_F(TextFile, ThatIsWriteProtectedStaysAsItIs)
+{
+    platform::writeTextFile(path("\\Set.dat"), "one");
+    fs::permissions(folder.path() / "Set.dat", fs::perms::owner_read);
+    EXPECT_EQ(errorOf([&] { platform::writeTextFile(path("\\Set.dat"), "two"); }), base::existsOrNoAccess);
+    EXPECT_EQ(bytesOf("Set.dat"), "one");
+    EXPECT_FALSE(fs::exists(folder.path() / "Set.dat.new"));
+    fs::permissions(folder.path() / "Set.dat", fs::perms::owner_read | fs::perms::owner_write);
+    platform::writeTextFile(path("\\Set.dat"), "two");
+    EXPECT_EQ(bytesOf("Set.dat"), "two");
+}
+
 TEST(FieldReader, EndsAValueAtALineEndAndAtAComma)
 {
     platform::FieldReader reader("YO2XYZ\r\n  KN05OS\n\r\n a,b \r\nlast");

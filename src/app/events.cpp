@@ -5,18 +5,25 @@
 #include "entry/call_field.h"
 #include "entry/clock.h"
 #include "entry/commit.h"
+#include "entry/deletion.h"
 #include "entry/duplicate.h"
 #include "entry/field_keys.h"
 #include "entry/received_fields.h"
 #include "entry/side_fields.h"
 #include "entry/time_fields.h"
 #include "entry/undo.h"
+#include "keyer/messages.h"
+#include "review/correction.h"
+#include "review/emptying.h"
+#include "review/page.h"
+#include "review/views.h"
 #include "runstate/contests.h"
 #include "runstate/road.h"
 #include "runstate/start_up.h"
 #include "screen/frm_anzeigen.h"
 #include "screen/frm_init.h"
 #include "screen/frm_qso.h"
+#include "screen/keying_choices.h"
 #include "screen/setup_page.h"
 
 namespace app {
@@ -40,16 +47,18 @@ void wireContests()
     FrmInit.OpbTest.Click = runstate::OpbTest_Click;
 }
 
-void wireFrmInit()
+void wireKeyingChoices()
 {
-    FrmInit.mnuExit.Click = runstate::init::mnuExit_Click;
-    FrmInit.mnuQSOfahren.Click = runstate::mnuQSOfahren_Click;
-    FrmInit.mnuLOG.Click = runstate::mnuLOG_Click;
-    FrmInit.mnuInit.Click = runstate::init::mnuInit_Click;
-    FrmInit.mnuInDat.Click = runstate::init::mnuInDat_Click;
-    FrmInit.mnuOutInit.Click = runstate::init::mnuOutInit_Click;
-    wireContests();
+    FrmInit.OpbCwJ.Click = screen::OpbCwJ_Click;
+    FrmInit.OpbCwN.Click = screen::OpbCwN_Click;
+    FrmInit.OpbSSBJ.Click = screen::OpbSSBJ_Click;
+    FrmInit.OpbSSBN.Click = screen::OpbSSBN_Click;
+    FrmInit.ChkCwRpt.Click = screen::ChkCwRpt_Click;
+    FrmInit.ChkSSBRpt.Click = screen::ChkSSBRpt_Click;
+}
 
+void wireSetUpFields()
+{
     for (screen::TextBox* box : {&FrmInit.TxtMyCall, &FrmInit.TxtMyName, &FrmInit.txtMyQRA, &FrmInit.TxtRpNr,
                                  &FrmInit.TxtSD, &FrmInit.TxtST, &FrmInit.TxtF1, &FrmInit.TxtF2, &FrmInit.TxtF3,
                                  &FrmInit.TxtF4, &FrmInit.TxtF5, &FrmInit.TxtF6, &FrmInit.TxtF7})
@@ -60,6 +69,30 @@ void wireFrmInit()
     FrmInit.TxtMyName.KeyUp = screen::TxtMyName_KeyUp;
     FrmInit.TxtRpNr.KeyDown = screen::TxtRpNr_KeyDown;
     FrmInit.TxtTime.KeyDown = screen::TxtTime_KeyDown;
+    FrmInit.TxtSD.KeyDown = screen::TxtSD_KeyDown;
+    FrmInit.TxtST.KeyDown = screen::TxtST_KeyDown;
+    FrmInit.TxtF1.KeyDown = screen::TxtF1_KeyDown;
+    FrmInit.TxtF2.KeyDown = screen::TxtF2_KeyDown;
+    FrmInit.TxtF3.KeyDown = screen::TxtF3_KeyDown;
+    FrmInit.TxtF4.KeyDown = screen::TxtF4_KeyDown;
+    FrmInit.TxtF5.KeyDown = screen::TxtF5_KeyDown;
+    FrmInit.TxtF6.KeyDown = screen::TxtF6_KeyDown;
+    FrmInit.TxtF7.KeyDown = screen::TxtF7_KeyDown;
+    FrmInit.TxtCP.KeyDown = screen::TxtCP_KeyDown;
+}
+
+void wireFrmInit()
+{
+    FrmInit.mnuExit.Click = runstate::init::mnuExit_Click;
+    FrmInit.mnuQSOfahren.Click = runstate::mnuQSOfahren_Click;
+    FrmInit.mnuLOG.Click = runstate::mnuLOG_Click;
+    FrmInit.mnuInputLog.Click = screen::mnuInputLog_Click;
+    FrmInit.mnuInit.Click = runstate::init::mnuInit_Click;
+    FrmInit.mnuInDat.Click = runstate::init::mnuInDat_Click;
+    FrmInit.mnuOutInit.Click = runstate::init::mnuOutInit_Click;
+    wireContests();
+    wireKeyingChoices();
+    wireSetUpFields();
 }
 
 void wireChoices()
@@ -79,6 +112,22 @@ void wireChoices()
     FrmQSO.OBtAnterior.Click = entry::OBtAnterior_Click;
     FrmQSO.CmdEnterCall.Click = entry::CmdEnterCall_Click;
     FrmQSO.CmdAbbruchX.Click = entry::CmdAbbruchX_Click;
+}
+
+void wireMessages()
+{
+    FrmQSO.TxtF1.KeyDown = keyer::TxtF1_KeyDown;
+    FrmQSO.TxtF2.KeyDown = keyer::TxtF2_KeyDown;
+    FrmQSO.TxtF3.KeyDown = keyer::TxtF3_KeyDown;
+    FrmQSO.TxtF4.KeyDown = keyer::TxtF4_KeyDown;
+    FrmQSO.TxtF5.KeyDown = keyer::TxtF5_KeyDown;
+    FrmQSO.TxtF6.KeyDown = keyer::TxtF6_KeyDown;
+    FrmQSO.TxtF7.KeyDown = keyer::TxtF7_KeyDown;
+    for (screen::TextBox* box : {&FrmQSO.TxtF1, &FrmQSO.TxtF2, &FrmQSO.TxtF3, &FrmQSO.TxtF4, &FrmQSO.TxtF5,
+                                 &FrmQSO.TxtF6, &FrmQSO.TxtF7})
+        box->KeyPress = screen::typeCapital;
+    for (screen::TextBox* box : {&FrmQSO.txtPauseCW, &FrmQSO.TxtPauseSSB, &FrmQSO.TxtPauseFm})
+        box->KeyPress = keyer::pauseField_KeyPress;
 }
 
 void wireFields()
@@ -117,6 +166,7 @@ void wireFields()
     FrmQSO.TxtDate.DblClick = entry::TxtDate_DblClick;
     FrmQSO.TxtDate.KeyDown = entry::TxtDate_KeyDown;
     FrmQSO.TxtDate.KeyPress = entry::TxtDate_KeyPress;
+    wireMessages();
     for (screen::TextBox* box :
          {&FrmQSO.TxtFGHz, &FrmQSO.txtPauseCW, &FrmQSO.TxtPauseSSB, &FrmQSO.TxtPauseFm, &FrmQSO.TxtCwCurent})
         box->KeyDown = entry::swallowF1;
@@ -133,14 +183,53 @@ void wireFrmQSO()
     FrmQSO.mnuModif.Click = runstate::qso::mnuModif_Click;
     FrmQSO.mnuOutPag.Click = runstate::qso::mnuOutPag_Click;
     FrmQSO.tmrTimer.Tick = entry::tmrTimer_Tick;
+    for (screen::Grid* grid : {&FrmQSO.DBGrid1, &FrmQSO.DBGrid2, &FrmQSO.DBGrid3, &FrmQSO.DBGrid4, &FrmQSO.DBGrid5,
+                               &FrmQSO.DBGrid6, &FrmQSO.DBGrid7, &FrmQSO.DBGrid8, &FrmQSO.DBGrid9})
+        grid->RowTouched = entry::Mesagge2;
     wireChoices();
     wireFields();
 }
 
+void wireViews()
+{
+    FrmAnzeigen.mnuLogAnzeigen.Click = review::mnuLogAnzeigen_Click;
+    FrmAnzeigen.OpB144a.Click = review::OpB144a_Click;
+    FrmAnzeigen.Opb144b.Click = review::Opb144b_Click;
+    FrmAnzeigen.OpB432a.Click = review::OpB432a_Click;
+    FrmAnzeigen.OpB432b.Click = review::OpB432b_Click;
+    FrmAnzeigen.OpB1296a.Click = review::OpB1296a_Click;
+    FrmAnzeigen.OpB1296b.Click = review::OpB1296b_Click;
+    FrmAnzeigen.OpBQRALoc.Click = review::OpBQRALoc_Click;
+    for (screen::Grid* grid : {&FrmAnzeigen.DBGrid1, &FrmAnzeigen.DBGrid2, &FrmAnzeigen.DBGrid3, &FrmAnzeigen.DBGrid4,
+                               &FrmAnzeigen.DBGrid5, &FrmAnzeigen.DBGrid6, &FrmAnzeigen.DBGrid7, &FrmAnzeigen.DBGrid8,
+                               &FrmAnzeigen.DBGrid9})
+        grid->RowTouched = review::rowTouched;
+}
+
+void wireCorrection()
+{
+    FrmAnzeigen.OpBDelete.Click = review::OpBDelete_Click;
+    FrmAnzeigen.mnuLOGLöschen.Click = review::mnuLOGL_schen_Click;
+    FrmAnzeigen.OpbL144a.Click = review::OpbL144a_Click;
+    FrmAnzeigen.OpbL144b.Click = review::OpbL144b_Click;
+    FrmAnzeigen.OpbL432a.Click = review::OpbL432a_Click;
+    FrmAnzeigen.OpbL432b.Click = review::OpbL432b_Click;
+    FrmAnzeigen.OpBL1296a.Click = review::OpBL1296a_Click;
+    FrmAnzeigen.OpBL1296b.Click = review::OpBL1296b_Click;
+    FrmAnzeigen.OpbLGHz.Click = review::OpbLGHz_Click;
+}
+
 void wireFrmAnzeigen()
 {
+    wireViews();
+    wireCorrection();
     FrmAnzeigen.mnuBeenden.Click = runstate::review::mnuBeenden_Click;
     FrmAnzeigen.mnuAnfang.Click = runstate::review::mnuAnfang_Click;
+    FrmAnzeigen.mnuVizLog.Click = runstate::review::mnuVizLog_Click;
+    FrmAnzeigen.mnuTipLog.Click = runstate::review::mnuTipLog_Click;
+    FrmAnzeigen.mnuMemLog.Click = runstate::review::mnuMemLog_Click;
+    FrmAnzeigen.MnuStergLog.Click = runstate::review::MnuStergLog_Click;
+    FrmAnzeigen.mnuOutPrel.Click = runstate::review::mnuOutPrel_Click;
 }
 
 }  // namespace
@@ -149,7 +238,7 @@ void hookForms()
 {
     FrmInit.hooks = {wireFrmInit, runstate::FrmInit_Load, runstate::init::mnuExit_Click};
     FrmQSO.hooks = {wireFrmQSO, runstate::FrmQSO_Load, runstate::qso::mnuBeenden_Click};
-    FrmAnzeigen.hooks = {wireFrmAnzeigen, runstate::FrmAnzeigen_Load, runstate::review::mnuBeenden_Click};
+    FrmAnzeigen.hooks = {wireFrmAnzeigen, review::FrmAnzeigen_Load, runstate::review::mnuBeenden_Click};
 }
 
 }  // namespace app

@@ -25,6 +25,7 @@ bool isDrawn(const Control& control)
     switch (control.kind) {
         case Kind::timer:
         case Kind::data:
+        case Kind::serial:
         case Kind::menuEntry:
             return false;
         case Kind::textBox:

@@ -29,8 +29,12 @@ std::vector<screen::Form*> forms()
 
 Program::Program(platform::Machine& machine, EntrySource& source, PictureSink* sink) : engine_(forms(), source, sink)
 {
-    platform::setMachine(&machine, [this] { engine_.serve(); });
-    base::setSwallowedErrorSink([&machine](const base::RuntimeError& error) { machine.notices.notice(error.what()); });
+    platform::setMachine(&machine, {[this] { engine_.serve(); }, [this] { engine_.publish(); }});
+    base::setSwallowedErrorSink([&machine](const base::RuntimeError& error) {
+        // Nobody knows what an unexpected error did to a message under way: the transmitter goes off.
+        machine.serialPort.close();
+        machine.notices.notice(error.what());
+    });
     hookForms();
     makeEverythingFresh();
 }

@@ -3,11 +3,15 @@
 #include <array>
 #include <string>
 
+#include "band/maraton_totals.h"
+#include "band/score_rows.h"
+#include "band/totals.h"
 #include "base/number.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "entry/commit.h"
 #include "entry/duplicate.h"
+#include "entry/offline.h"
 #include "runstate/modul1.h"
 #include "screen/frm_qso.h"
 #include "screen/grid_layout.h"
@@ -23,6 +27,12 @@ void ask(const std::string& query)
 {
     FrmQSO.UusLGYO2.RecordSource = query;
     FrmQSO.UusLGYO2.Refresh();
+}
+
+/// The day of the QSO as the log writes it.
+std::string dayOfQso()
+{
+    return entry::withShortYear(entry::paperLog() ? Modul1.DateOff : Modul1.DateQso);
 }
 
 /// The name of the last QSO with this station in which one was logged.
@@ -42,7 +52,7 @@ void ScrieTabYO2()
 {
     entry::takeExchange();
     Modul1.BandYO = base::toText(Modul1.BandCur);
-    entry::shortenDate();
+    Modul1.DateQso = entry::withShortYear(Modul1.DateQso);
     const std::array<std::string, 12> row = {Modul1.IndicLog, Modul1.DateQso, Modul1.TimeQso,
                                              Modul1.SentLog,  Modul1.RcvdLog, Modul1.ModeCur,
                                              Modul1.BandYO,   Modul1.QraLog,  base::trim(FrmQSO.TxtYourName.Text),
@@ -60,11 +70,35 @@ void IndicInfoDublYO2()
     base::quietly<base::noCurrentRecord>([] {
         Modul1.Indic = base::trim(base::upper(Modul1.Indic));
         if (Modul1.Indic.empty()) return;
-        ask(storage::maratonRowsOfCall(Modul1.Indic, Modul1.BandYO, Modul1.DateQso));
+        ask(storage::maratonRowsOfCall(Modul1.Indic, Modul1.BandYO, dayOfQso()));
         if (!FrmQSO.UusLGYO2.Recordset.IsEof()) return entry::Rosu();
         entry::Verde();
         learnName();
     });
+}
+
+void SummeYO2()
+{
+    const int error = base::quietly<base::noCurrentRecord, base::rowGone>([] {
+        recountMaratonLog(FrmQSO.UusLGYO2);
+        ViewLogGen();
+    });
+    afterSumError(error, restartMessage);
+}
+
+void showMaratonScore(std::int32_t band)
+{
+    int number = 0;
+    for (const MaratonBand* row : maratonBandsFrom(band))
+        showScore(number++, row->name, Modul1.*row->Pct, Modul1.*row->Qso);
+}
+
+void takeMaratonBand(std::int32_t band)
+{
+    Modul1.BandYO = base::toText(band);
+    SummeYO2();
+    showMaratonScore(band);
+    ViewLogGen();
 }
 
 void ViewLogGen()

@@ -2,10 +2,11 @@
 
 #include <string>
 
+#include "band/score_rows.h"
 #include "band/totals.h"
-#include "base/number.h"
 #include "base/runtime_error.h"
 #include "entry/commit.h"
+#include "entry/contest_groups.h"
 #include "entry/flow.h"
 #include "entry/log_table.h"
 #include "runstate/modul1.h"
@@ -19,33 +20,10 @@ namespace {
 using entry::LogTable;
 using entry::logTableFor;
 
-/// Band captions of the score rows by table; a row of stage B on 432 is captioned by hand where it is filled.
-struct ScoreRow {
-    screen::Label& band;
-    screen::Label& points;
-    screen::Label& qsos;
-};
-
-ScoreRow scoreRow(int number)
-{
-    switch (number) {
-        case 0:
-            return {FrmQSO.LblBand, FrmQSO.LblPkt, FrmQSO.LblQSO};
-        case 1:
-            return {FrmQSO.LblBand1, FrmQSO.LblPkt1, FrmQSO.LblQSO1};
-        case 2:
-            return {FrmQSO.LblBand2, FrmQSO.LblPkt2, FrmQSO.LblQSO2};
-        default:
-            return {FrmQSO.LblBand3, FrmQSO.LblPkt3, FrmQSO.LblQSO3};
-    }
-}
-
 void fillFigures(int number, std::int32_t band, const char* stage)
 {
     const LogTable& table = *logTableFor(band, stage);
-    const ScoreRow row = scoreRow(number);
-    row.points.Caption = base::toText(Modul1.*table.Pct);
-    row.qsos.Caption = base::toText(Modul1.*table.Qso);
+    showFigures(number, Modul1.*table.Pct, Modul1.*table.Qso);
 }
 
 void fillRow(int number, const char* caption, std::int32_t band, const char* stage)
@@ -134,6 +112,8 @@ void stageAOn1296()
 {
     prepareCode(Dute1296AB);
     sumOnce(Summe1296);
+    // The score of the Maraton contest comes from its own log.
+    if (Modul1.ConcId == entry::maratonContest) return;
     fillRow(0, "1296A", 1296, "A");
     if (Modul1.ConcId == 0) {
         sumStageB(Summe1296);
@@ -222,7 +202,7 @@ void openEntryIfModeIsChosen()
 void showLog(std::int32_t band)
 {
     const LogTable* table = logTableFor(band, Modul1.Etapa);
-    if (Modul1.ConcId == 7 || table == nullptr) return;
+    if (Modul1.ConcId == entry::maratonContest || table == nullptr) return;
     base::quietly<base::noCurrentRecord>([&] { entry::showWholeTable(*table); });
 }
 
@@ -243,7 +223,7 @@ void EA()
 {
     Modul1.Etapa = "A";
     openEntryIfModeIsChosen();
-    const bool maraton = Modul1.ConcId == 7;
+    const bool maraton = Modul1.ConcId == entry::maratonContest;
     const std::int32_t band = Modul1.BandCur;
     if (band == 144 && !maraton) stageAOn144();
     if (band == 432 && !maraton) stageAOn432();

@@ -3,11 +3,13 @@
 #include <algorithm>
 #include <string>
 
+#include "band/maraton.h"
 #include "band/stage.h"
 #include "band/totals.h"
 #include "base/number.h"
 #include "base/text.h"
 #include "entry/commit.h"
+#include "entry/contest_groups.h"
 #include "entry/flow.h"
 #include "entry/log_table.h"
 #include "runstate/modul1.h"
@@ -23,10 +25,11 @@ bool contestIs(std::initializer_list<int> contests)
     return std::find(contests.begin(), contests.end(), int{Modul1.ConcId}) != contests.end();
 }
 
-/// Small screens move the fields received; the row depends on the band procedure.
+/// Small screens move the fields received; the row depends on the band procedure. On the page of the Maraton contest
+/// they stand in the row that has room for the name.
 void moveReceivedFields(double threshold, double designTop)
 {
-    if (Modul1.ScaleY >= threshold) return;
+    if (Modul1.ScaleY >= threshold || Modul1.ConcId == entry::maratonContest) return;
     for (screen::TextBox* field : {&FrmQSO.TxtRSTR1, &FrmQSO.TxtRSTR2, &FrmQSO.TxtRSTr3})
         field->Top = Modul1.ScaleY * designTop;
 }
@@ -126,8 +129,9 @@ void B144()
     if (contestIs({0, 2, 5, 8, 100})) CitStart144();
     if (contestIs({3})) MaxConc3();
     // The threshold is -1 here and 1 in the other band procedures, so on 144 the fields never move.
-    if (Modul1.ConcId != 7) moveReceivedFields(-1.0, 1500);
+    moveReceivedFields(-1.0, 1500);
     prepareBand();
+    if (contestIs({7})) takeMaratonBand(144);
     if (contestIs({0, 1, 6})) {
         showStageButtons(true);
         FrmQSO.Cmd432.Visible = false;
@@ -162,6 +166,7 @@ void B432()
     if (contestIs({3})) MaxConc3();
     moveReceivedFields(1.0, 1500);
     prepareBand();
+    if (contestIs({7})) takeMaratonBand(432);
     if (contestIs({0})) {
         showStageButtons(true);
         FrmQSO.Cmd144.Visible = false;
@@ -194,6 +199,7 @@ void B1296()
     openEntry();
     if (contestIs({2, 5, 8, 100})) showCodeLabel(FrmQSO.LblCod1296);
     if (contestIs({3})) showCodeLabel(FrmQSO.LblCod);
+    if (contestIs({7})) takeMaratonBand(1296);
     entry::openWhenAllIsChosen();
 }
 

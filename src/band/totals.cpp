@@ -1,5 +1,6 @@
 #include "band/totals.h"
 
+#include "band/maraton.h"
 #include "base/number.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
@@ -15,10 +16,8 @@ namespace band {
 
 namespace {
 
-constexpr int iconExclamation = 48;
 constexpr int columnLocator = 8;
 constexpr int columnPoints = 9;
-constexpr const char* restartMessage = "DUPA GOLIRE LOG ROG RESTART PROGRAM !";
 constexpr const char* restartMessageInTwoLanguages =
     "DUPA GOLIRE LOG ROG RESTART PROGRAM !  AFTER DELETE LOG, PLEASE RESTART PROGRAM !";
 
@@ -80,30 +79,14 @@ void SummeGHz()
 void Rezult()
 {
     Summe144();
-    const struct {
-        screen::Label& band;
-        const char* caption;
-        screen::Label& points;
-        std::int32_t pct;
-        screen::Label& qsos;
-        std::int16_t qso;
-    } rows[] = {
-        {FrmQSO.LblBand, "144", FrmQSO.LblPkt, Modul1.PctYO144, FrmQSO.LblQSO, Modul1.QsoYO144},
-        {FrmQSO.LblBand1, "432", FrmQSO.LblPkt1, Modul1.PctYO432, FrmQSO.LblQSO1, Modul1.QsoYO432},
-        {FrmQSO.LblBand2, "1296", FrmQSO.LblPkt2, Modul1.PctYO1296, FrmQSO.LblQSO2, Modul1.QsoYO1296},
-    };
-    for (const auto& row : rows) {
-        row.band.Caption = row.caption;
-        row.points.Caption = base::toText(row.pct);
-        row.qsos.Caption = base::toText(row.qso);
-    }
+    showMaratonScore(144);
     Modul1.BandCur = 144;
 }
 
 void afterSumError(int error, const char* message)
 {
     if (error != base::rowGone) return;
-    platform::msgBox(message, iconExclamation);
+    platform::msgBox(message, platform::iconExclamation);
     Modul1.DbLog.Close();
     FrmQSO.Unload();
     throw base::ProgramEnd{};

@@ -17,13 +17,26 @@ bool isDigit(char character)
 }
 
 template <typename Integer>
+bool fits(double whole)
+{
+    return whole >= static_cast<double>(std::numeric_limits<Integer>::min()) &&
+           whole <= static_cast<double>(std::numeric_limits<Integer>::max());
+}
+
+template <typename Integer>
 Integer rounded(double value, const char* what)
 {
     const double whole = roundHalfEven(value);
-    const bool fits = whole >= static_cast<double>(std::numeric_limits<Integer>::min()) &&
-                      whole <= static_cast<double>(std::numeric_limits<Integer>::max());
-    if (!fits) throw RuntimeError(overflow, std::string("A number does not fit ") + what);
+    if (!fits<Integer>(whole)) throw RuntimeError(overflow, std::string("A number does not fit ") + what);
     return static_cast<Integer>(whole);
+}
+
+/// A text for a sentence that the operator reads: of a very long one only its beginning.
+std::string quoted(std::string_view text)
+{
+    constexpr std::size_t longest = 40;
+    const std::string shown = length(text) > longest ? left(text, longest) + "..." : std::string(text);
+    return "\"" + shown + "\"";
 }
 
 }  // namespace
@@ -54,8 +67,10 @@ std::int16_t toInt16(std::string_view text)
     std::size_t at = 0;
     if (!bare.empty() && (bare[0] == '-' || bare[0] == '+')) at = 1;
     const bool number = at < bare.size() && bare.find_first_not_of("0123456789", at) == std::string::npos;
-    if (!number) throw RuntimeError(notANumber, "\"" + std::string(text) + "\" is not a number");
-    return roundToInt16(numericValue(bare));
+    if (!number) throw RuntimeError(notANumber, quoted(bare) + " is not a number");
+    const double value = numericValue(bare);
+    if (!fits<std::int16_t>(value)) throw RuntimeError(overflow, quoted(bare) + " is not between -32768 and 32767");
+    return static_cast<std::int16_t>(value);
 }
 
 std::int16_t toInt16(long long value)

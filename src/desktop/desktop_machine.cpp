@@ -3,11 +3,15 @@
 namespace desktop {
 
 DesktopMachine::DesktopMachine(const CommandLine& commandLine, EntryQueue& queue, std::function<void()> publish)
-    : notices_(clock_),
+    : clock_(queue.stopToken()),
+      notices_(clock_),
       messageBoxes_(queue, std::move(publish)),
+      sound_(notices_, queue.stopToken()),
+      serialPort_(commandLine.programFolder),
       help_(commandLine.programFolder, notices_),
       installation_(commandLine),
-      machine_{messageBoxes_, notices_, clock_, polledKeys_, clipboard_, sound_, help_, screenArea_, installation_}
+      machine_{messageBoxes_, notices_,    clock_, polledKeys_, clipboard_,
+               sound_,        serialPort_, help_,  screenArea_, installation_}
 {
     screenArea_.measure();
 }

@@ -9,6 +9,7 @@
 #include "desktop/message_boxes.h"
 #include "desktop/notices.h"
 #include "desktop/screen_area.h"
+#include "desktop/serial_port.h"
 #include "desktop/sound_devices.h"
 #include "platform/machine.h"
 
@@ -31,6 +32,7 @@ class DesktopMachine {
     PolledKeys polledKeys_;
     ClipboardMirror clipboard_;
     SoundDevices sound_;
+    SerialLines serialPort_;
     HelpFile help_;
     ScreenArea screenArea_;
     InstalledProgram installation_;

@@ -75,6 +75,7 @@ void EntryQueue::stop()
         stopped_ = true;
     }
     changed_.notify_all();
+    stopping_.request_stop();
 }
 
 bool EntryQueue::stopped() const

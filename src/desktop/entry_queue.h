@@ -5,6 +5,7 @@
 #include <deque>
 #include <mutex>
 #include <optional>
+#include <stop_token>
 
 #include "app/queue.h"
 #include "platform/machine.h"
@@ -31,6 +32,8 @@ class EntryQueue final : public app::EntrySource {
     /// Ends all waiting, now and later. From any thread.
     void stop();
     bool stopped() const;
+    /// For whatever waits elsewhere on the program thread: asked to stop when the queue is.
+    std::stop_token stopToken() const { return stopping_.get_token(); }
 
     /// True when the program thread waits and there is nothing that it could take. From any thread.
     bool idle() const;
@@ -45,6 +48,7 @@ class EntryQueue final : public app::EntrySource {
     std::deque<app::QueueEntry> entries_;
     Waiting waiting_ = Waiting::no;
     bool stopped_ = false;
+    std::stop_source stopping_;
 };
 
 }  // namespace desktop

@@ -128,6 +128,7 @@ void FormSurface::paintControl(Canvas& canvas, const app::ControlPicture& contro
         case Kind::timer:
         case Kind::menuEntry:
         case Kind::data:
+        case Kind::serial:
             return;
     }
 }

@@ -1,7 +1,10 @@
 #include "desktop/machine_clock.h"
 
 #include <QDateTime>
-#include <thread>
+#include <condition_variable>
+#include <mutex>
+
+#include "base/runtime_error.h"
 
 namespace desktop {
 
@@ -14,6 +17,11 @@ platform::LocalTime MachineClock::now() const
     return std::chrono::local_days{date} + std::chrono::seconds{local.time().msecsSinceStartOfDay() / 1000};
 }
 
+std::chrono::milliseconds MachineClock::timeOfDay() const
+{
+    return std::chrono::milliseconds(QTime::currentTime().msecsSinceStartOfDay());
+}
+
 platform::MonotonicTime MachineClock::monotonic() const
 {
     return std::chrono::steady_clock::now().time_since_epoch();
@@ -21,7 +29,12 @@ platform::MonotonicTime MachineClock::monotonic() const
 
 void MachineClock::sleepUntil(platform::MonotonicTime deadline)
 {
-    std::this_thread::sleep_until(std::chrono::steady_clock::time_point(deadline));
+    // Nobody else knows these two, so that nothing but the end of the program comes in between.
+    std::mutex mutex;
+    std::condition_variable_any never;
+    std::unique_lock lock(mutex);
+    never.wait_until(lock, programStops_, std::chrono::steady_clock::time_point(deadline), [] { return false; });
+    if (programStops_.stop_requested()) throw base::ProgramEnd{};
 }
 
 }  // namespace desktop

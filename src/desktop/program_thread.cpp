@@ -1,5 +1,7 @@
 #include "desktop/program_thread.h"
 
+#include "desktop/keying_priority.h"
+
 namespace desktop {
 
 ProgramThread::ProgramThread(EntryQueue& queue, app::PictureSink& sink, std::function<void()> ended)
@@ -25,6 +27,7 @@ void ProgramThread::publish()
 
 void ProgramThread::run(platform::Machine& machine)
 {
+    sharpenTimers();
     {
         app::Program program(machine, queue_, &sink_);
         program_ = &program;

@@ -5,7 +5,9 @@
 #include "entry/duplicate.h"
 #include "entry/field_keys.h"
 #include "entry/normalise.h"
+#include "entry/offline.h"
 #include "entry/search.h"
+#include "keyer/messages.h"
 #include "platform/keys.h"
 #include "runstate/modul1.h"
 #include "screen/editing.h"
@@ -67,8 +69,11 @@ void txtIndic_Click()
 void txtIndic_KeyDown(int& KeyCode)
 {
     markNextField(KeyCode);
-    swallowF1(KeyCode);
+    keyer::armOnF1(KeyCode);
     pressedInCall(KeyCode);
+    keyer::sendOnFunctionKey(KeyCode, keyer::Call::fromField);
+    keyer::changeSpeed(KeyCode);
+    reopenPaperTime(KeyCode);
 }
 
 void txtIndic_KeyPress(char32_t& KeyAscii)
@@ -79,7 +84,7 @@ void txtIndic_KeyPress(char32_t& KeyAscii)
     FrmQSO.SsbRepBreak = 100;
     FrmQSO.LblMyCall.Caption = Modul1.MyCall;
     if (KeyAscii == platform::charEnter && FrmQSO.CmdEnterCall.Enabled) Enter();
-    if (Modul1.OfflineInput == 100 && FrmQSO.TimeDone == 100) {
+    if (paperLog() && FrmQSO.TimeDone == 100) {
         FrmQSO.NextField = 0;
         return;
     }

@@ -10,6 +10,7 @@
 #include "base/text.h"
 #include "entry/contest_groups.h"
 #include "entry/log_table.h"
+#include "entry/offline.h"
 #include "entry/undo.h"
 #include "platform/civil_time.h"
 #include "platform/machine.h"
@@ -55,7 +56,7 @@ bool bandIsChosen()
 
 void stampLiveTime()
 {
-    if (Modul1.OfflineInput == 100) return;
+    if (paperLog()) return;
     CalcOraData();
     FrmQSO.TxtDate.Text = Modul1.DateQso;
     FrmQSO.TxtUTC.Text = Modul1.TimeQso;
@@ -120,15 +121,6 @@ void takeReceivedNumber()
     }
 }
 
-/// On paper the next line starts at the same date and hour.
-void keepHourOfPaperLog()
-{
-    if (Modul1.OfflineInput != 100) return;
-    FrmQSO.TxtDate.Text = Modul1.DateOff;
-    Modul1.TimeOff = base::trim(base::left(Modul1.TimeOff, 3));
-    FrmQSO.TxtUTC.Text = Modul1.TimeOff;
-}
-
 /// The whole log comes back into view, with the QSO at its end. A failure here may not keep the screen from clearing.
 void showLogAfterQso()
 {
@@ -162,7 +154,7 @@ void addToTotal(const LogTable& table)
 void writeQso(std::int32_t band)
 {
     takeExchange();
-    shortenDate();
+    Modul1.DateQso = withShortYear(Modul1.DateQso);
     const LogTable* table = logTableFor(band, Modul1.Etapa);
     if (table == nullptr)
         throw base::RuntimeError(base::invalidArgument, "The stage is missing, choose A or B: nothing was logged");
@@ -210,7 +202,7 @@ void Enter()
         storeLastCode();
         takeReceivedNumber();
         Anulat();
-        keepHourOfPaperLog();
+        if (paperLog()) showPaperDateAndHour();
         FrmQSO.CmdEnterCall.Enabled = false;
         base::quietly<base::noCurrentRecord>(showLogAfterQso);
         FrmQSO.AbortFlag = 0;
@@ -229,9 +221,10 @@ void CalcOraData()
 
 void ScrieTab()
 {
-    if (Modul1.OfflineInput == 100) {
+    if (paperLog()) {
         Modul1.DateQso = Modul1.DateOff;
-        Modul1.TimeQso = Modul1.TimeOff;
+        // An hour or minute of one digit is a time as well, but not in the form of the log.
+        Modul1.TimeQso = platform::validTime(Modul1.TimeOff).value_or(Modul1.TimeOff);
         Modul1.RstRcvd2 = FrmQSO.TxtRSTR2.Text;
     }
     if (Modul1.ConcId == maratonContest) return band::ScrieTabYO2();
@@ -353,11 +346,12 @@ void takeExchange()
     Modul1.IndicLog = base::trim(base::upper(Modul1.IndicLog));
 }
 
-void shortenDate()
+std::string withShortYear(const std::string& date)
 {
     constexpr std::size_t dateWithFullYear = 10;
-    const std::string date = base::trim(Modul1.DateQso);
-    if (base::length(date) == dateWithFullYear) Modul1.DateQso = base::left(date, 6) + base::right(date, 2);
+    const std::string trimmed = base::trim(date);
+    if (base::length(trimmed) != dateWithFullYear) return date;
+    return base::left(trimmed, 6) + base::right(trimmed, 2);
 }
 
 void CmdEnterCall_Click()

@@ -1,6 +1,8 @@
 // From the screen to a logged line, and to the next call.
 #pragma once
 
+#include <string>
+
 namespace entry {
 
 /// Logs the QSO on the screen: brings the locator memory up to date, counts, writes one row, prepares the next code and
@@ -38,8 +40,8 @@ void YoIn();
 /// Reads the six report fields into the run state, and builds what goes to the columns of the log from them.
 void takeExchange();
 
-/// Cuts a date with a four-digit year down to eight characters.
-void shortenDate();
+/// A date with a four-digit year cut down to the eight characters that the log has; any other text as it is.
+std::string withShortYear(const std::string& date);
 
 void CmdEnterCall_Click();
 void CmdAbbruchX_Click();

@@ -2,7 +2,9 @@
 
 #include "base/text.h"
 #include "entry/commit.h"
+#include "entry/offline.h"
 #include "entry/undo.h"
+#include "keyer/messages.h"
 #include "platform/keys.h"
 
 namespace entry {
@@ -38,6 +40,15 @@ void sideFieldKeyDown(int& keyCode)
 {
     markNextField(keyCode);
     swallowF1(keyCode);
+}
+
+void exchangeFieldKeyDown(int& keyCode)
+{
+    markNextField(keyCode);
+    keyer::armOnF1(keyCode);
+    abortOnEscape(keyCode);
+    keyer::sendOnFunctionKey(keyCode, keyer::Call::asTaken);
+    reopenPaperTime(keyCode);
 }
 
 void abortOnEscape(int keyCode)

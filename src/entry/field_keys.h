@@ -25,6 +25,9 @@ void swallowF1(int& KeyCode);
 /// The KeyDown of a field that only waits for Tab or Space.
 void sideFieldKeyDown(int& keyCode);
 
+/// The KeyDown of a field of the exchange: the stored messages can be sent from it, and Esc gives the QSO up.
+void exchangeFieldKeyDown(int& keyCode);
+
 /// Esc gives the QSO up, unless it has just stopped a message.
 void abortOnEscape(int keyCode);
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "entry/log_table.h"
+#include "entry/offline.h"
 #include "runstate/modul1.h"
 #include "screen/frm_qso.h"
 
@@ -14,7 +15,7 @@ void YesEnabl()
     for (screen::TextBox* field : {&FrmQSO.txtIndic, &FrmQSO.TxtRSTE1, &FrmQSO.txtRSTE2, &FrmQSO.txtRSTe3,
                                    &FrmQSO.TxtRSTR1, &FrmQSO.TxtRSTR2, &FrmQSO.TxtRSTr3})
         field->Enabled = true;
-    if (Modul1.OfflineInput != 100) return;
+    if (!paperLog()) return;
     FrmQSO.TxtUTC.Enabled = true;
     FrmQSO.TxtDate.Enabled = true;
 }
@@ -36,7 +37,7 @@ void NoEnabl()
     for (screen::TextBox* field : {&FrmQSO.txtIndic, &FrmQSO.TxtRSTE1, &FrmQSO.txtRSTE2, &FrmQSO.txtRSTe3,
                                    &FrmQSO.TxtRSTR1, &FrmQSO.TxtRSTR2, &FrmQSO.TxtRSTr3})
         field->Enabled = false;
-    if (Modul1.OfflineInput != 100) return;
+    if (!paperLog()) return;
     FrmQSO.TxtUTC.Enabled = false;
     FrmQSO.TxtDate.Enabled = false;
 }

@@ -21,6 +21,7 @@ struct LogTable {
     std::int32_t band;
     const char* stage;  ///< "A" or "B"; the GHz log has none
     screen::DataControl screen::FrmQSOForm::*data;
+    screen::Grid screen::FrmQSOForm::*grid;
     std::int16_t runstate::Modul1State::*Qso;
     std::int32_t runstate::Modul1State::*Pct;
     std::int32_t runstate::Modul1State::*Loc;

@@ -7,6 +7,7 @@
 #include "base/text.h"
 #include "entry/commit.h"
 #include "entry/duplicate.h"
+#include "entry/offline.h"
 #include "geo/locator.h"
 #include "geo/points.h"
 #include "geo/rose.h"
@@ -19,11 +20,6 @@ namespace entry {
 namespace {
 
 constexpr std::size_t mostCodeDigits = 3;
-
-bool live()
-{
-    return Modul1.OfflineInput != 100;
-}
 
 void readCall()
 {
@@ -50,7 +46,7 @@ void countFromFirstLabel()
 
 void stampCall()
 {
-    if (!live()) return;
+    if (paperLog()) return;
     CalcOraData();
     FrmQSO.TxtDate.Text = Modul1.DateQso;
     FrmQSO.TxtUTC.Text = Modul1.TimeQso;
@@ -81,17 +77,14 @@ void placeKnownStation()
 /// On paper the operator goes on with the minutes.
 void goOnWithMinutes()
 {
-    if (live()) return;
+    if (!paperLog()) return;
     FrmQSO.TxtUTC.Enabled = true;
     FrmQSO.TxtDate.Enabled = true;
-    FrmQSO.TxtDate.Text = Modul1.DateOff;
-    Modul1.TimeOff = base::trim(base::left(Modul1.TimeOff, 3));
-    FrmQSO.TxtUTC.Text = Modul1.TimeOff;
+    showPaperDateAndHour();
     FrmQSO.Show();
     FrmQSO.TxtUTC.SetFocus();
     FrmQSO.TxtUTC.SelStart = std::min<std::size_t>(3, base::length(FrmQSO.TxtUTC.Text));
-    FrmQSO.TxtUTC.BackColor = screen::yellow;
-    FrmQSO.TxtDate.BackColor = screen::yellow;
+    switchTimeFields();
 }
 
 std::string withoutBlanks(std::string text)
@@ -137,7 +130,7 @@ void SubRep()
     FrmQSO.CallTyped = Modul1.Indic;
     IndicInfo();
     IndicInfoDubl();
-    if (live()) FrmQSO.TxtRSTR2.SetFocus();
+    if (!paperLog()) FrmQSO.TxtRSTR2.SetFocus();
     switchEnterCall();
     completeSquare();
     placeKnownStation();
@@ -156,7 +149,7 @@ void ElimSp1()
     constexpr std::size_t shortestCall = 3;
     if (base::length(base::trim(FrmQSO.txtIndic.Text)) < shortestCall) return;
     for (const SweptField& row : sweptFields) {
-        if (row.paperOnly && live()) continue;
+        if (row.paperOnly && !paperLog()) continue;
         screen::TextBox& field = FrmQSO.*row.field;
         Modul1.*row.variable = sweptField(field.Text, row.width);
         field.Text = base::trim(Modul1.*row.variable);

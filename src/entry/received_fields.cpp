@@ -18,7 +18,6 @@ namespace entry {
 
 namespace {
 
-constexpr int iconExclamation = 48;
 constexpr std::size_t wholeCode = 3;
 constexpr std::size_t wholeLocator = 6;
 
@@ -115,7 +114,7 @@ void TxtRSTR2_GotFocus()
         ElimSp();
         return;
     }
-    platform::msgBox("ORA INCORECT INTRODUSA . INTRODUCETI ORA CORECT !", iconExclamation);
+    platform::msgBox("ORA INCORECT INTRODUSA . INTRODUCETI ORA CORECT !", platform::iconExclamation);
     FrmQSO.TxtUTC.Text = " ";
     FrmQSO.TxtUTC.SetFocus();
 }
@@ -127,8 +126,7 @@ void TxtRSTR2_Click()
 
 void TxtRSTR2_KeyDown(int& KeyCode)
 {
-    sideFieldKeyDown(KeyCode);
-    abortOnEscape(KeyCode);
+    exchangeFieldKeyDown(KeyCode);
 }
 
 void TxtRSTR2_KeyPress(char32_t& KeyAscii)

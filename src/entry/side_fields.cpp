@@ -56,8 +56,7 @@ void TxtRSTE1_KeyPress(char32_t& KeyAscii)
 
 void txtRSTE2_KeyDown(int& KeyCode)
 {
-    sideFieldKeyDown(KeyCode);
-    abortOnEscape(KeyCode);
+    exchangeFieldKeyDown(KeyCode);
 }
 
 void txtRSTE2_KeyPress(char32_t& /*KeyAscii*/)

@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "entry/field_keys.h"
+#include "entry/offline.h"
 #include "runstate/modul1.h"
 #include "screen/frm_qso.h"
 
@@ -44,7 +45,7 @@ void finishTime()
     FrmQSO.NextField = 0;
     FrmQSO.CmdEnterCall.Enabled = true;
     Modul1.TimeOff = FrmQSO.TxtUTC.Text;
-    if (Modul1.OfflineInput != 100) return toTakenCall();
+    if (!paperLog()) return toTakenCall();
     FrmQSO.TimeDone = 100;
     if (base::trim(FrmQSO.TxtRSTR2.Text).empty())
         FrmQSO.TxtRSTR2.SetFocus();

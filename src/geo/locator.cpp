@@ -20,7 +20,6 @@ constexpr double earthRadiusKm = 6371.1;
 /// Not pi/2 to the last digit: all distances of past contests were computed with it.
 constexpr double shortHalfPi = 1.5708;
 constexpr double farthestKm = 4000;
-constexpr int iconExclamation = 48;
 
 double letterOr(std::string_view locator, std::size_t position, char missing)
 {
@@ -47,7 +46,7 @@ struct Refusal {
 
 Refusal incorrect()
 {
-    return {"QRALoc INCORECT. INTRODUCETI QRALoc CORECT !", iconExclamation};
+    return {"QRALoc INCORECT. INTRODUCETI QRALoc CORECT !", platform::iconExclamation};
 }
 
 /// The squares of KN that belong to Romania, by the tens digit of their number.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <system_error>
 
+#include "base/runtime_error.h"
 #include "base/text.h"
 
 namespace platform {
@@ -38,6 +39,26 @@ fs::path resolve(std::string_view designPath)
     if (!asWritten.has_parent_path() || asWritten.parent_path() == asWritten) return asWritten;
     const fs::path folder = resolve(pathText(asWritten.parent_path()));
     return folder / entryIgnoringCase(folder, asWritten.filename());
+}
+
+void makeFolder(std::string_view designPath)
+{
+    const fs::path path = resolve(designPath);
+    const std::string name = pathText(path.filename());
+    std::error_code failed;
+    if (fs::exists(path, failed)) throw base::RuntimeError(base::existsOrNoAccess, name + " is there already");
+    if (!fs::is_directory(path.parent_path(), failed))
+        throw base::RuntimeError(base::noSuchFolder, "The folder of " + name + " is not there");
+    if (fs::create_directory(path, failed)) return;
+    if (failed == std::errc::no_space_on_device)
+        throw base::RuntimeError(base::diskFull, "The disk is full: the folder " + name + " was not made");
+    throw base::RuntimeError(base::existsOrNoAccess, "The folder " + name + " cannot be made");
+}
+
+bool folderIsThere(std::string_view designPath)
+{
+    std::error_code ignored;
+    return fs::is_directory(resolve(designPath), ignored);
 }
 
 std::string pathText(const fs::path& path)

@@ -12,6 +12,13 @@ namespace platform {
 /// without regard to case; parts that do not exist at all stay as written, so the result can be used to make them.
 std::filesystem::path resolve(std::string_view designPath);
 
+/// Makes a folder. `designPath` as for resolve(). Error 75 when something of that name is there already, in whatever
+/// case, or when it may not be made there; 76 when the folder above is not there; 61 when the disk is full.
+void makeFolder(std::string_view designPath);
+
+/// True when there is a folder at `designPath`.
+bool folderIsThere(std::string_view designPath);
+
 /// A native path as UTF-8 text.
 std::string pathText(const std::filesystem::path& path);
 

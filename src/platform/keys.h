@@ -27,6 +27,7 @@ enum KeyCode : int {
     keyF2 = 113,
     keyF3 = 114,
     keyF4 = 115,
+    keyF7 = 118,
     keyF8 = 119,
     keyF9 = 120,
     keyF11 = 122,

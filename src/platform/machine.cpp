@@ -8,10 +8,10 @@ namespace {
 
 Machine* currentMachine = nullptr;
 
-EventServing& currentServing()
+ProgramLoop& currentLoop()
 {
-    static EventServing serving;
-    return serving;
+    static ProgramLoop loop;
+    return loop;
 }
 
 }  // namespace
@@ -22,19 +22,25 @@ Machine& machine()
     return *currentMachine;
 }
 
-void setMachine(Machine* current, EventServing serving)
+void setMachine(Machine* current, ProgramLoop loop)
 {
     currentMachine = current;
-    currentServing() = std::move(serving);
+    currentLoop() = std::move(loop);
 }
 
 void serveEvents()
 {
-    if (currentServing()) currentServing()();
+    if (currentLoop().serveEvents) currentLoop().serveEvents();
+}
+
+void showState()
+{
+    if (currentLoop().showState) currentLoop().showState();
 }
 
 Button msgBox(const std::string& text, int style, const std::string& title)
 {
+    machine().serialPort.close();
     return machine().messageBoxes.show({text, title, style});
 }
 

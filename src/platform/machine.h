@@ -25,6 +25,9 @@ struct MessageBoxRequest {
 /// Answers of message boxes.
 enum Button : int { buttonOk = 1, buttonCancel = 2, buttonYes = 6, buttonNo = 7 };
 
+/// Styles of message boxes that the program uses.
+enum BoxStyle : int { styleOk = 0, styleOkCancel = 1, styleYesNoQuestion = 36, iconExclamation = 48 };
+
 class MessageBoxes {
  public:
     virtual ~MessageBoxes() = default;
@@ -46,6 +49,8 @@ class Clock {
     virtual ~Clock() = default;
     /// The present local date and time.
     virtual LocalTime now() const = 0;
+    /// The same within its day, from midnight, finer than a second.
+    virtual std::chrono::milliseconds timeOfDay() const = 0;
     virtual MonotonicTime monotonic() const = 0;
     /// Blocks the program thread until the monotonic clock reaches `deadline`; returns at once when that is past.
     virtual void sleepUntil(MonotonicTime deadline) = 0;
@@ -75,6 +80,25 @@ class Sound {
     virtual ~Sound() = default;
     /// Number of devices that can play sound.
     virtual int outputDevices() const = 0;
+    /// Plays a sound file and returns when it is over, at most one second later than the file is long. A file that is
+    /// missing or is no whole sound plays nothing. A device that fails is told as a notice; nothing is thrown.
+    virtual void play(const std::string& path) = 0;
+};
+
+/// The serial port whose lines hold the transmitter on and key it. No byte goes over it.
+class SerialPort {
+ public:
+    virtual ~SerialPort() = default;
+    /// Takes port `number` (from 1) into use, both lines down. Error 8002, with the reason, when there is none that
+    /// opens and answers for its lines.
+    virtual void open(int number) = 0;
+    virtual bool isOpen() const = 0;
+    /// The key line. Error 75 when the port is not open, or its adapter was pulled; the port is then closed.
+    virtual void setDtr(bool on) = 0;
+    /// The transmitter line. Errors as for the key line.
+    virtual void setRts(bool on) = 0;
+    /// Both lines down, and the port out of use. Does nothing when it is not open.
+    virtual void close() noexcept = 0;
 };
 
 class HelpViewer {
@@ -112,6 +136,7 @@ struct Machine {
     KeyState& keyState;
     Clipboard& clipboard;
     Sound& sound;
+    SerialPort& serialPort;
     HelpViewer& help;
     Screen& screen;
     Installation& installation;
@@ -120,16 +145,23 @@ struct Machine {
 /// The machine that the running program stands on. A programming fault when no program runs.
 Machine& machine();
 
-/// Handles everything that waits in the queue, in the middle of the running handler, and returns.
-using EventServing = std::function<void()>;
+/// What the program loop does for long work in the middle of a handler.
+struct ProgramLoop {
+    std::function<void()> serveEvents;  ///< handles everything that waits in the queue, and returns
+    std::function<void()> showState;    ///< shows the present state of the forms
+};
 
-/// Puts the program on a machine, with the program loop's way to serve events; nullptr takes it off.
-void setMachine(Machine* current, EventServing serving = {});
+/// Puts the program on a machine, under its program loop; nullptr takes it off.
+void setMachine(Machine* current, ProgramLoop loop = {});
 
 /// For long work: serves the events that wait. Handlers nest.
 void serveEvents();
 
-/// Shows a box with an OK button, or as `style` says (see MessageBoxRequest), and returns the answer.
+/// For long work: shows how far it has come, without serving events.
+void showState();
+
+/// Shows a box with an OK button, or as `style` says (see MessageBoxRequest), and returns the answer. A message that is
+/// being sent ends first: nothing may hold the transmitter on while a box waits.
 Button msgBox(const std::string& text, int style = 0, const std::string& title = {});
 
 }  // namespace platform

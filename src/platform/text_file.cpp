@@ -28,6 +28,14 @@ bool diskIsFull(const fs::path& folder)
     return !unknown && space.available == 0;
 }
 
+/// Putting another file in its place would get round the protection.
+bool isWriteProtected(const fs::path& path)
+{
+    std::error_code unknown;
+    const fs::file_status status = fs::status(path, unknown);
+    return fs::is_regular_file(status) && (status.permissions() & fs::perms::owner_write) == fs::perms::none;
+}
+
 /// Everything from here to the end. A device that fails leaves the stream bad, as a folder in the file's place does.
 std::string bytesOf(std::ifstream& file)
 {
@@ -61,6 +69,8 @@ void writeTextFile(std::string_view designPath, std::string_view text)
     std::error_code failed;
     if (!fs::is_directory(path.parent_path(), failed))
         throw base::RuntimeError(base::noSuchFolder, "The folder of " + nameOf(path) + " is not there");
+    if (isWriteProtected(path))
+        throw base::RuntimeError(base::existsOrNoAccess, nameOf(path) + " is write-protected: it stays as it was");
     fs::path beside = path;
     beside += ".new";
     {

@@ -20,7 +20,6 @@ constexpr std::uint16_t trofeulCarpati = 1;
 constexpr std::uint16_t oltenia144 = 4;
 constexpr std::uint16_t maraton = 7;
 constexpr std::uint16_t oltenia6m = 101;
-constexpr int iconExclamation = 48;
 
 constexpr const char* pickBand = "SELECT MOD SI BANDA";
 constexpr const char* pickStage = "SELECT MOD SI ETAPA";
@@ -115,7 +114,7 @@ void askForName(std::uint16_t contest)
 void showNames(std::uint16_t contest)
 {
     if (contest != maraton) return;
-    FrmQSO.takeMaratonPlaces();
+    FrmQSO.takeMaratonPlaces(Modul1.ScaleX >= 1);
     FrmQSO.TxtYourName.Visible = true;
     FrmQSO.TxtMyName.Visible = true;
     FrmQSO.LblRSTe.Caption = "RSTS CODS QTHLocS  NameS";
@@ -236,7 +235,7 @@ void OpbConcurs_Click()
     leaveOperatingMode();
     Modul1.QraMemOn = 100;
     platform::msgBox("Inainte de incepere verificati daca tabelele LOG necesare concursului dorit sint goale !",
-                     iconExclamation);
+                     platform::iconExclamation);
 }
 
 void OpbTest_Click()

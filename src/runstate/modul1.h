@@ -67,6 +67,7 @@ struct Modul1State {
     std::string TxtCwF6;
     std::string TxtCwF7;
     std::int16_t CwPort = 0;
+    std::int32_t callingRuns = 0;  ///< automatic callings begun or ended from outside: each knows its own number
 
     // The QSO under entry.
     std::string Indic;             ///< call worked
@@ -117,6 +118,7 @@ struct Modul1State {
     std::int32_t PctYO144 = 0;
     std::int32_t PctYO432 = 0;
     std::int32_t PctYO1296 = 0;
+    std::uint16_t maratonLogEmptied = 0;  ///< 100: it was emptied in this run, and not counted since
     std::string BandYO;
     std::string Start144a;  ///< last code in the stage table of the band
     std::string Start144b;

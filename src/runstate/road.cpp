@@ -9,28 +9,22 @@
 #include "base/text.h"
 #include "entry/flow.h"
 #include "entry/log_table.h"
+#include "entry/offline.h"
 #include "geo/locator.h"
+#include "keyer/cw.h"
 #include "platform/machine.h"
 #include "runstate/modul1.h"
 #include "runstate/setup_files.h"
 #include "screen/frm_anzeigen.h"
 #include "screen/frm_init.h"
 #include "screen/frm_qso.h"
+#include "screen/setup_page.h"
 
 namespace runstate {
 
 namespace {
 
 constexpr std::uint16_t maraton = 7;
-constexpr int styleYesNoQuestion = 36;
-
-/// A number typed into a field that nobody checks: empty or no number counts 0.
-std::int16_t countIn(const screen::TextBox& box)
-{
-    std::int16_t count = 0;
-    base::passing<base::notANumber, base::overflow>([&] { count = base::toInt16(box.Text.get()); });
-    return count;
-}
 
 /// False, with a message, when the Maraton contest lacks the operator's name.
 bool nameIsThere()
@@ -65,7 +59,7 @@ void takeMessages()
     Modul1.TxtCwF5 = FrmInit.TxtF5.Text;
     Modul1.TxtCwF6 = FrmInit.TxtF6.Text;
     Modul1.TxtCwF7 = FrmInit.TxtF7.Text;
-    Modul1.CwPort = countIn(FrmInit.TxtCP);
+    Modul1.CwPort = screen::countIn(FrmInit.TxtCP);
 }
 
 void handMessagesOver()
@@ -81,7 +75,7 @@ void handMessagesOver()
 
 void takeStation()
 {
-    Modul1.SerNrStart = countIn(FrmInit.TxtRpNr);
+    Modul1.SerNrStart = screen::countIn(FrmInit.TxtRpNr);
     Modul1.MyCall = FrmInit.TxtMyCall.Text;
     Modul1.TimeDiff = FrmInit.TxtTime.Text;
     Modul1.MyQRA = FrmInit.txtMyQRA.Text;
@@ -91,7 +85,7 @@ void takeStation()
     Modul1.LonMy = Modul1.LonCur;
     Modul1.LatMy = Modul1.LatCur;
     FrmQSO.LblMyQRA.Caption = Modul1.MyQRA;
-    Modul1.SerNr = countIn(FrmInit.TxtRpNr);
+    Modul1.SerNr = Modul1.SerNrStart;
 }
 
 /// A set-up file that cannot be written must not keep an operator from the contest: it is told, and he goes on.
@@ -135,14 +129,10 @@ void showSerial()
     FrmQSO.LblCod.Caption = padded;
 }
 
-void showPaperDate()
+void readyTimeFields()
 {
-    if (Modul1.OfflineInput != 100) return;
-    FrmQSO.TxtDate.Text = Modul1.DateOff;
-    Modul1.TimeOff = base::trim(base::left(Modul1.TimeOff, 3));
-    FrmQSO.TxtUTC.Text = Modul1.TimeOff;
-    FrmQSO.TxtDate.BackColor = screen::yellow;
-    FrmQSO.TxtUTC.BackColor = screen::yellow;
+    entry::switchTimeFields();
+    if (entry::paperLog()) entry::showPaperDateAndHour();
 }
 
 /// Band, stage and mode as the run state holds them.
@@ -169,8 +159,8 @@ bool reallyEnd()
 {
     Modul1.MsgText = "VRETI INTRADEVAR SA IESITI DIN PROGRAM ?";
     Modul1.MsgTitle = "EXIT";
-    Modul1.MsgStyle = base::toText(styleYesNoQuestion);
-    const platform::Button answer = platform::msgBox(Modul1.MsgText, styleYesNoQuestion, Modul1.MsgTitle);
+    Modul1.MsgStyle = base::toText(platform::styleYesNoQuestion);
+    const platform::Button answer = platform::msgBox(Modul1.MsgText, platform::styleYesNoQuestion, Modul1.MsgTitle);
     Modul1.MsgResp = base::toText(answer);
     return answer == platform::buttonYes;
 }
@@ -201,7 +191,7 @@ void QSOFahr()
     writeSetUp(WriteInitDat);
     showEntryForm();
     showSerial();
-    showPaperDate();
+    readyTimeFields();
     resume();
 }
 
@@ -255,6 +245,7 @@ namespace qso {
 
 void mnuAnfang_Click()
 {
+    keyer::endSending();
     Modul1.ConcReturn = 100;
     const std::string name = FrmQSO.TxtMyName.Text;
     screen::load(FrmInit);
@@ -300,6 +291,9 @@ namespace review {
 void mnuAnfang_Click()
 {
     Modul1.ConcReturn = 100;
+    // The jobs of this form go from band to band; the contest goes on where it was left.
+    Modul1.BandCur = FrmAnzeigen.BandFound;
+    Modul1.Etapa = FrmAnzeigen.EtapaFound;
     screen::load(FrmInit);
     FrmInit.Show();
     FrmAnzeigen.Unload();
@@ -308,6 +302,31 @@ void mnuAnfang_Click()
 void mnuBeenden_Click()
 {
     Message10();
+}
+
+void mnuVizLog_Click()
+{
+    openHelp(900);
+}
+
+void mnuTipLog_Click()
+{
+    openHelp(1000);
+}
+
+void mnuMemLog_Click()
+{
+    openHelp(1100);
+}
+
+void MnuStergLog_Click()
+{
+    openHelp(1200);
+}
+
+void mnuOutPrel_Click()
+{
+    openHelp(1300);
 }
 
 }  // namespace review

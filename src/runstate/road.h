@@ -33,6 +33,11 @@ void mnuOutPag_Click();
 namespace review {
 void mnuAnfang_Click();
 void mnuBeenden_Click();
+void mnuVizLog_Click();
+void mnuTipLog_Click();
+void mnuMemLog_Click();
+void MnuStergLog_Click();
+void mnuOutPrel_Click();
 }  // namespace review
 
 }  // namespace runstate

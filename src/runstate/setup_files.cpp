@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "base/number.h"
+#include "base/runtime_error.h"
 #include "platform/text_file.h"
 #include "runstate/modul1.h"
 
@@ -33,14 +34,27 @@ constexpr Value textCw[] = {
     &Modul1State::TxtCwF5, &Modul1State::TxtCwF6, &Modul1State::TxtCwF7, &Modul1State::CwPort,
 };
 
+void take(platform::FieldReader& reader, const Value& value)
+{
+    if (const auto* text = std::get_if<Text>(&value))
+        Modul1.*(*text) = reader.text();
+    else
+        Modul1.*std::get<Number>(value) = reader.number();
+}
+
 void read(const char* name, std::span<const Value> values)
 {
     platform::FieldReader reader(platform::readTextFile(Modul1.AppPath + name));
+    int place = 0;
     for (const Value& value : values) {
-        if (const auto* text = std::get_if<Text>(&value))
-            Modul1.*(*text) = reader.text();
-        else
-            Modul1.*std::get<Number>(value) = reader.number();
+        ++place;
+        try {
+            take(reader, value);
+        } catch (const base::RuntimeError& error) {
+            // Whoever typed the file has to find the place.
+            throw base::RuntimeError(error.number(),
+                                     std::string(name + 1) + ", value " + base::toText(place) + ": " + error.what());
+        }
     }
 }
 

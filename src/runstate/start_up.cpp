@@ -12,9 +12,9 @@
 #include "runstate/contests.h"
 #include "runstate/modul1.h"
 #include "runstate/setup_files.h"
-#include "screen/frm_anzeigen.h"
 #include "screen/frm_init.h"
 #include "screen/frm_qso.h"
+#include "screen/keying_choices.h"
 #include "screen/scale.h"
 #include "storage/open_databases.h"
 
@@ -22,10 +22,6 @@ namespace runstate {
 
 namespace {
 
-constexpr double twipsPerPixel = 15;
-constexpr double designWidth = 12000;
-constexpr double designHeight = 9000;
-constexpr int styleOkCancel = 1;
 constexpr std::uint16_t maraton = 7;
 
 constexpr const char* modesExplained[] = {
@@ -46,21 +42,12 @@ base::ResumeNext loadTrap()
 {
     return base::ResumeNext([answer = platform::buttonOk](const base::RuntimeError& error) mutable {
         if (error.number() == base::noDatabase)
-            answer = platform::msgBox("Keine Verbindung zum Server !", styleOkCancel);
+            answer = platform::msgBox("Keine Verbindung zum Server !", platform::styleOkCancel);
         if (base::upper(platform::machine().installation.commandLine()) == "AUTO") throw base::ProgramEnd{};
         if (answer == platform::buttonCancel) throw base::ProgramEnd{};
         // A first run has no set-up files.
         if (error.number() != base::noSuchFile) base::reportSwallowed(error);
     });
-}
-
-void fillScreen(screen::Form& form)
-{
-    const platform::ScreenSize size = platform::machine().screen.size();
-    form.Width = size.width * twipsPerPixel;
-    form.Height = size.height * twipsPerPixel;
-    Modul1.ScaleY = static_cast<float>(form.Height / designHeight);
-    Modul1.ScaleX = static_cast<float>(form.Width / designWidth);
 }
 
 void explainModes()
@@ -81,14 +68,17 @@ void showStation()
 
 void askForSoundCard()
 {
-    Modul1.SoundCard = platform::machine().sound.outputDevices() > 0 ? 100 : 0;
-    if (Modul1.SoundCard == 100) return;
+    bool card = false;
+    screen::Soundkarte(card);
+    Modul1.SoundCard = card ? 100 : 0;
+    if (card) return;
     FrmInit.ChkSSBRpt.Value = 0;
     FrmInit.ChkSSBRpt.Visible = false;
     FrmInit.FramSSB.Visible = false;
     FrmInit.OpbSSBN.Value = true;
     FrmInit.OpbSSBN.Visible = false;
     FrmInit.OpbSSBJ.Visible = false;
+    Modul1.SsbAllowed = 0;
 }
 
 void startAfresh()
@@ -109,7 +99,7 @@ void restoreKeyingChoices()
     (voice ? FrmInit.OpbSSBJ : FrmInit.OpbSSBN).Value = true;
     FrmInit.FramTxtCw.Visible = cw;
     FrmInit.ChkCwRpt.Visible = cw;
-    FrmInit.ChkSSBRpt.Visible = voice && Modul1.SoundCard == 100;
+    FrmInit.ChkSSBRpt.Visible = voice;
 }
 
 /// The serial shown on the entry form, from the label that this contest counts in.
@@ -201,7 +191,7 @@ void FrmInit_Load()
     base::ResumeNext go = loadTrap();
     FrmInit.LblContest.Caption = "BEFORE START PLEASE FILL THIS PAGE ";
     FrmInit.HelpContextID = 100;
-    fillScreen(FrmInit);
+    screen::fillScreen(FrmInit);
     if (Modul1.ScaleY < 1)
         screen::init::MForm();
     else
@@ -225,7 +215,7 @@ void FrmInit_Load()
     if (Modul1.SoundCard == 0) Modul1.SsbAllowed = 0;
     const bool noMessages = go(ReadTextCw) == base::noSuchFile;
     showMessages();
-    if (!noMessages) FrmInit.TxtCP.Text = base::toText(Modul1.CwPort);
+    if (!noMessages || Modul1.CwPort != 0) FrmInit.TxtCP.Text = base::toText(Modul1.CwPort);
     go([] {
         screen::touch(FrmQSO);
         FrmQSO.Hide();
@@ -240,12 +230,13 @@ void FrmQSO_Load()
     base::ResumeNext go = loadTrap();
     FrmQSO.HelpContextID = 400;
     FrmQSO.BaseCaption = FrmQSO.Caption;
-    fillScreen(FrmQSO);
+    screen::fillScreen(FrmQSO);
     layOutEntryForm();
     entry::switchRecup(false);
     bindDataControls();
     if (Modul1.ModeCur == "  " || Modul1.BandCur == 0) FrmQSO.LblAnunt.Visible = true;
     FrmQSO.DBGrid9.Visible = false;
+    FrmQSO.LblOffLine.Visible = Modul1.OfflineInput == 100;
     restorePage();
     if (Modul1.ConcId == maraton) FrmQSO.TxtMyName.Text = Modul1.MyName;
     go(ReadTextCw);
@@ -258,12 +249,6 @@ void FrmQSO_Load()
     lightModeLamp();
     FrmQSO.Hide();
     go(storage::DBsInit);
-}
-
-void FrmAnzeigen_Load()
-{
-    fillScreen(FrmAnzeigen);
-    screen::scaleForm(FrmAnzeigen);
 }
 
 std::string appDirOf(std::string_view appPath)

@@ -10,7 +10,6 @@ namespace runstate {
 /// reached; with the word AUTO on the command line any error ends the program.
 void FrmInit_Load();
 void FrmQSO_Load();
-void FrmAnzeigen_Load();
 
 /// Folder of the databases for the folder of the program: without the bracketed tag that may stand in it. Everything
 /// between the drive and the last "]" goes.

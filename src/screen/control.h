@@ -30,7 +30,8 @@ enum class Kind {
     timer,
     menuEntry,
     grid,
-    data
+    data,
+    serial
 };
 
 using EventSlot = void (*)();

@@ -1,5 +1,6 @@
 #include "screen/frm_anzeigen.h"
 
+#include "screen/frm_anzeigen_places.h"
 #include "screen/placing.h"
 
 screen::FrmAnzeigenForm FrmAnzeigen;
@@ -12,8 +13,27 @@ FrmAnzeigenForm::FrmAnzeigenForm() : Form("FrmAnzeigen")
     writeMenu();
     bindTables();
     placeGrids();
+    placeView();
+    placeEmptying();
+    placePrinting();
+    placeSums();
+    placeDeletion();
+    placeBandChoices();
+    placeArchive();
+    placeEdiStation();
+    placeEdiClaims();
+    placeStation();
     makeParkingPlace(TxtFoc);
     stopTabEverywhere(*this);
+}
+
+void FrmAnzeigenForm::takeMaratonPlaces()
+{
+    put({{DBGrid9, review_places::maratonLog}});
+    for (Frame* frame : {&Frame1, &Frame2, &Frame3, &Frame4, &Frame5, &Frame8, &FraArh}) {
+        const Rectangle& at = frame->design;
+        frame->place(review_places::maratonJobLeft, at.Top, at.Width, at.Height);
+    }
 }
 
 void FrmAnzeigenForm::writeMenu()
@@ -28,7 +48,7 @@ void FrmAnzeigenForm::writeMenu()
         {MnuHDDLOG, "Memorare pe &HDD in folderul"},
         {mnuFormTXT, "Memorare format TXT"},
         {mnuFormEDI, "Memorare format EDI"},
-        {MnuArhiva, "Arhivare log pe HDD in folderul"},
+        {MnuArhiva, "Arhivare log pe HDD in folderul Arhiva"},
         {mnuLOGLöschen, "&DELETE_LOG "},
         {mnuHelp3, "HELP"},
         {mnuVizLog, "Vizualizare log"},
@@ -57,7 +77,7 @@ void FrmAnzeigenForm::bindTables()
 void FrmAnzeigenForm::placeGrids()
 {
     for (Grid* grid : {&DBGrid1, &DBGrid2, &DBGrid3, &DBGrid4, &DBGrid5, &DBGrid6, &DBGrid7, &DBGrid8, &DBGrid9}) {
-        grid->place(120, 120, 8900, 8760);
+        put({{*grid, review_places::log}});
         grid->gesture = RowGesture::click;
         grid->Visible = false;
     }

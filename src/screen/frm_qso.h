@@ -6,6 +6,7 @@
 #include <string>
 
 #include "screen/form.h"
+#include "screen/serial_control.h"
 
 namespace screen {
 
@@ -13,8 +14,9 @@ struct FrmQSOForm : Form {
     FrmQSOForm();
 
     /// Gives the page the places of the Maraton contest: names beside both exchanges, one wide log, and room for the
-    /// rose at the top. The controls go to their new places on the design screen; scaling is left to the caller.
-    void takeMaratonPlaces();
+    /// rose at the top. Small screens draw no `rose` in this contest. The controls go to their new places on the design
+    /// screen; scaling is left to the caller.
+    void takeMaratonPlaces(bool rose = true);
 
     MenuEntry mnuBeenden{this, "mnuBeenden"};
     MenuEntry mnuAnfang{this, "mnuAnfang"};
@@ -178,6 +180,7 @@ struct FrmQSOForm : Form {
     Grid DBGrid9{this, "DBGrid9", &UusLGYO2};
 
     Timer tmrTimer{this, "tmrTimer"};
+    SerialControl MSComm1{this, "MSComm1"};  ///< its lines hold the transmitter on and key it
 
     // Run state of the form.
     std::int16_t NextField = 0;  ///< 100: Tab or Space went down, or the field is full, and nobody has acted on it yet
@@ -197,7 +200,24 @@ struct FrmQSOForm : Form {
     std::int16_t Beam = 0;       ///< beam heading, degrees
     std::int16_t CodMax = 0;     ///< highest code found in the log
     std::array<std::string, 20> UndoRec;  ///< the screen as it was before an abort
-    float Wpm = 30;                       ///< keying speed, words a minute
+
+    // Keying. Times are those of the message or the character being sent.
+    float Wpm = 30;              ///< speed, words a minute
+    std::string TxtCw;           ///< the message, with its placeholders filled
+    std::int16_t MorseCnt = 0;   ///< rows of the table of Morse codes
+    std::int16_t TickBase = 0;   ///< units of a second of which one is a dot at one word a minute
+    float CharUnit = 0;          ///< unit of the spaces, in ticks of 1/18.2 second
+    float ElemUnit = 0;          ///< unit of dots and dashes, in the same
+    float KeyOnMs = 0;           ///< of the current element
+    float KeyOffMs = 0;          ///< of the gap behind it
+    float ElemLen = 0;           ///< 1 for a dot, 3 for a dash
+    float TabIdx = 0;            ///< running row of the table, from 1
+    std::string SymCur;          ///< the character being sent
+    std::int16_t CharIdx = 0;    ///< its place in the message, from 1
+    float SecNow = 0;            ///< seconds of the day
+    float SecStart = 0;          ///< the same, when the message began
+    platform::MonotonicTime keyingDeadline{};  ///< when the line is due to change next
+    std::string WavPath;         ///< the sound file to play
     std::int16_t CwRepStop = 0;           ///< 100 would end automatic calling
     std::int16_t CwRepBreak = 0;          ///< 100: a key asks automatic calling to end
     std::int16_t CwF1Armed = 0;           ///< 100: F1 came in CW
@@ -226,6 +246,7 @@ struct FrmQSOForm : Form {
     void placeLegend();
     void bindTables();
     void placeGrids();
+    void raiseReceivedExchange();
 };
 
 }  // namespace screen

@@ -6,7 +6,7 @@ namespace screen {
 
 // The rose stands at the top here, 3250 to 4750 from the left, 50 to 1550 from the top; on larger screens 2700 to 4000
 // from the left, 2400 to 4650 from the top.
-void FrmQSOForm::takeMaratonPlaces()
+void FrmQSOForm::takeMaratonPlaces(bool rose)
 {
     constexpr Rectangle lastCode{5820, 2430, 840, 270};
     constexpr double exchangeTop = 1950;
@@ -15,16 +15,16 @@ void FrmQSOForm::takeMaratonPlaces()
     put({
         {LblCall, {190, 30, 2980, 290}},
         {txtIndic, {190, 330, 2980, 540}},
-        {LblBeam1, {440, 930, 680, 290}},
+        {LblBeam1, {440, 930, 590, 290}},
         {LblQRB1, {1900, 930, 1180, 290}},
         {LblNeu, {440, 1280, 700, 260}},
         {CmdEnterCall, {5640, 60, 1440, 330}},
         {CmdAbbruchX, {5640, 430, 1440, 300}},
         {LblOffLine, {5400, 735, 1600, 290}},
-        {LblUTC, {4800, 1030, 860, 235}},
-        {TxtUTC, {4800, 1270, 860, 360}},
-        {LblDate, {5700, 1030, 1240, 235}},
-        {TxtDate, {5700, 1270, 1240, 360}},
+        {LblUTC, {4950, 1030, 860, 235}},
+        {TxtUTC, {4950, 1270, 860, 360}},
+        {LblDate, {5850, 1030, 1240, 235}},
+        {TxtDate, {5850, 1270, 1240, 360}},
 
         {LblRSTR, {0, 1650, 4900, 290}},
         {TxtRSTR1, {190, exchangeTop, 720, exchangeHeight}},
@@ -50,6 +50,25 @@ void FrmQSOForm::takeMaratonPlaces()
         {TxtCwCurent, {8420, 4720, 3480, 330}},
         {FramTxtCw, {8420, 5110, 3480, 2890}},
         {DBGrid9, {120, 4720, 8240, 4180}},
+    });
+    if (!rose) raiseReceivedExchange();
+}
+
+// Without the rose the received exchange has the row that it has on the page of the other contests.
+void FrmQSOForm::raiseReceivedExchange()
+{
+    constexpr double top = 1500;
+    constexpr double height = 450;
+
+    put({
+        {LblBeam1, {440, 890, 590, 290}},
+        {LblQRB1, {1900, 890, 1180, 290}},
+        {LblNeu, {3250, 890, 700, 260}},
+        {LblRSTR, {0, 1200, 4900, 290}},
+        {TxtRSTR1, {190, top, 720, height}},
+        {TxtRSTR2, {950, top, 840, height}},
+        {TxtRSTr3, {1830, top, 1340, height}},
+        {TxtYourName, {3210, top, 1690, height}},
     });
 }
 

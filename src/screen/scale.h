@@ -9,12 +9,21 @@
 
 namespace screen {
 
+/// Gives a form the size of the screen, and works out the factors from it.
+void fillScreen(Form& form);
+
 /// Puts every control of the form where its design place lies at the present factors. The ends of lines are set by
 /// whoever draws them and stay.
 void scaleForm(Form& form);
 
 /// Gives a control another height on the design screen, in twips, and shows it so at the present factor.
 void setDesignHeight(Control& control, double height);
+
+/// The same with its width.
+void setDesignWidth(Control& control, double width);
+
+/// The same with its distance from the upper edge of what holds it.
+void setDesignTop(Control& control, double top);
 
 namespace init {
 

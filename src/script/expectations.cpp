@@ -5,10 +5,12 @@
 #include <filesystem>
 #include <system_error>
 
+#include "base/number.h"
 #include "base/text.h"
 #include "script/finding.h"
 #include "script/folder_files.h"
 #include "script/grammar.h"
+#include "script/keyed_text.h"
 #include "script/number_words.h"
 #include "script/rows_shown.h"
 #include "script/state_variables.h"
@@ -195,11 +197,13 @@ void checkList(const Statement& statement)
                      inQuotes(item)};
 }
 
-/// No driver of this machine moves the key line, so nothing can have been sent.
-void checkKeyed(const Statement& statement)
+void checkKeyed(const Statement& statement, VirtualMachine& machine)
 {
-    if (statement.text(1).empty()) return;
-    throw StepFailed{inQuotes(statement.text(1)) + " keyed at " + statement.text(0), "nothing was sent"};
+    const auto wpm = static_cast<float>(base::numericValue(statement.text(0)));
+    const std::string keyed = keyedText(machine.record.takeMessages(), wpm);
+    if (keyed != statement.text(1))
+        throw StepFailed{inQuotes(statement.text(1)) + " keyed at " + statement.text(0),
+                         keyed.empty() ? "nothing was sent" : inQuotes(keyed)};
 }
 
 void checkSounds(const Statement& statement, VirtualMachine& machine)
@@ -267,7 +271,7 @@ void check(const Statement& statement, VirtualMachine& machine, const ProgramRun
         case Verb::expectRow:
             return checkRow(statement, machine);
         case Verb::expectKeyed:
-            return checkKeyed(statement);
+            return checkKeyed(statement, machine);
         case Verb::expectSounds:
             return checkSounds(statement, machine);
         case Verb::expectFile:

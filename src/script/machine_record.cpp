@@ -1,7 +1,9 @@
 #include "script/machine_record.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
+#include <iterator>
 
 namespace script {
 
@@ -24,6 +26,15 @@ std::vector<std::string> MachineRecord::takeSounds()
     for (; soundsTaken_ < sounds.size(); ++soundsTaken_)
         taken.push_back(sounds[soundsTaken_].what);
     return taken;
+}
+
+std::vector<TimedEvent> MachineRecord::takeMessages()
+{
+    const auto from = serial.begin() + static_cast<std::ptrdiff_t>(serialTaken_);
+    const auto last = std::find_if(serial.rbegin(), std::make_reverse_iterator(from),
+                                   [](const TimedEvent& event) { return event.what == "close"; });
+    serialTaken_ = static_cast<std::size_t>(last.base() - serial.begin());
+    return {from, last.base()};
 }
 
 }  // namespace script

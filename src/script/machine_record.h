@@ -32,9 +32,13 @@ class MachineRecord {
     /// Sounds played since the last call.
     std::vector<std::string> takeSounds();
 
+    /// Changes of the serial lines since the last call, up to the end of the last message that is over.
+    std::vector<TimedEvent> takeMessages();
+
  private:
     std::optional<platform::MonotonicTime> start_;
     std::size_t soundsTaken_ = 0;
+    std::size_t serialTaken_ = 0;
 };
 
 }  // namespace script

@@ -69,6 +69,7 @@ bool prepareDevices(const Statement& statement, VirtualMachine& machine)
             return true;
         case Verb::unplug:
             description.portPulled = true;
+            machine.serialPort.pull();
             return true;
         case Verb::printer:
             description.printer = printerState(statement.words[0]);

@@ -73,6 +73,8 @@ void ProgramRun::restart(const std::string& commandLine)
 void ProgramRun::kill()
 {
     program_.reset();
+    // What the system does with the port of a program that is gone.
+    machine_.serialPort.close();
     dropQueue();
 }
 

@@ -6,6 +6,7 @@
 
 #include "base/text.h"
 #include "runstate/modul1.h"
+#include "screen/frm_anzeigen.h"
 #include "screen/frm_qso.h"
 
 namespace script {
@@ -14,6 +15,7 @@ namespace {
 
 using Run = runstate::Modul1State;
 using Entry = screen::FrmQSOForm;
+using Review = screen::FrmAnzeigenForm;
 
 Value valueFrom(const std::string& text)
 {
@@ -35,6 +37,11 @@ Value valueFrom(std::int32_t number)
     return static_cast<long>(number);
 }
 
+Value valueFrom(float number)
+{
+    return static_cast<double>(number);
+}
+
 Value valueFrom(double number)
 {
     return number;
@@ -50,6 +57,12 @@ template <auto member>
 Value ofEntry()
 {
     return valueFrom(FrmQSO.*member);
+}
+
+template <auto member>
+Value ofReview()
+{
+    return valueFrom(FrmAnzeigen.*member);
 }
 
 struct Variable {
@@ -99,6 +112,7 @@ constexpr std::array variables = {
     Variable{"TxtCwF6", ofRun<&Run::TxtCwF6>},
     Variable{"TxtCwF7", ofRun<&Run::TxtCwF7>},
     Variable{"CwPort", ofRun<&Run::CwPort>},
+    Variable{"callingRuns", ofRun<&Run::callingRuns>},
     Variable{"Indic", ofRun<&Run::Indic>},
     Variable{"IndicLog", ofRun<&Run::IndicLog>},
     Variable{"RstRcvd1", ofRun<&Run::RstRcvd1>},
@@ -145,6 +159,7 @@ constexpr std::array variables = {
     Variable{"PctYO144", ofRun<&Run::PctYO144>},
     Variable{"PctYO432", ofRun<&Run::PctYO432>},
     Variable{"PctYO1296", ofRun<&Run::PctYO1296>},
+    Variable{"maratonLogEmptied", ofRun<&Run::maratonLogEmptied>},
     Variable{"BandYO", ofRun<&Run::BandYO>},
     Variable{"Start144a", ofRun<&Run::Start144a>},
     Variable{"Start144b", ofRun<&Run::Start144b>},
@@ -187,12 +202,43 @@ constexpr std::array variables = {
     Variable{"FrmQSO.Beam", ofEntry<&Entry::Beam>},
     Variable{"FrmQSO.CodMax", ofEntry<&Entry::CodMax>},
     Variable{"FrmQSO.Wpm", ofEntry<&Entry::Wpm>},
+    Variable{"FrmQSO.TxtCw", ofEntry<&Entry::TxtCw>},
+    Variable{"FrmQSO.MorseCnt", ofEntry<&Entry::MorseCnt>},
+    Variable{"FrmQSO.TickBase", ofEntry<&Entry::TickBase>},
+    Variable{"FrmQSO.CharUnit", ofEntry<&Entry::CharUnit>},
+    Variable{"FrmQSO.ElemUnit", ofEntry<&Entry::ElemUnit>},
+    Variable{"FrmQSO.KeyOnMs", ofEntry<&Entry::KeyOnMs>},
+    Variable{"FrmQSO.KeyOffMs", ofEntry<&Entry::KeyOffMs>},
+    Variable{"FrmQSO.ElemLen", ofEntry<&Entry::ElemLen>},
+    Variable{"FrmQSO.TabIdx", ofEntry<&Entry::TabIdx>},
+    Variable{"FrmQSO.SymCur", ofEntry<&Entry::SymCur>},
+    Variable{"FrmQSO.CharIdx", ofEntry<&Entry::CharIdx>},
+    Variable{"FrmQSO.SecNow", ofEntry<&Entry::SecNow>},
+    Variable{"FrmQSO.SecStart", ofEntry<&Entry::SecStart>},
+    Variable{"FrmQSO.WavPath", ofEntry<&Entry::WavPath>},
     Variable{"FrmQSO.CwRepStop", ofEntry<&Entry::CwRepStop>},
     Variable{"FrmQSO.CwRepBreak", ofEntry<&Entry::CwRepBreak>},
     Variable{"FrmQSO.CwF1Armed", ofEntry<&Entry::CwF1Armed>},
     Variable{"FrmQSO.SsbRepStop", ofEntry<&Entry::SsbRepStop>},
     Variable{"FrmQSO.SsbRepBreak", ofEntry<&Entry::SsbRepBreak>},
     Variable{"FrmQSO.SsbF1Armed", ofEntry<&Entry::SsbF1Armed>},
+    Variable{"FrmAnzeigen.OutMode", ofReview<&Review::OutMode>},
+    Variable{"FrmAnzeigen.OutFormat", ofReview<&Review::OutFormat>},
+    Variable{"FrmAnzeigen.ArhFormat", ofReview<&Review::ArhFormat>},
+    Variable{"FrmAnzeigen.ArhSelExt", ofReview<&Review::ArhSelExt>},
+    Variable{"FrmAnzeigen.EnterFlag", ofReview<&Review::EnterFlag>},
+    Variable{"FrmAnzeigen.EnterAgain", ofReview<&Review::EnterAgain>},
+    Variable{"FrmAnzeigen.InsertAsked", ofReview<&Review::InsertAsked>},
+    Variable{"FrmAnzeigen.BandText", ofReview<&Review::BandText>},
+    Variable{"FrmAnzeigen.OutFile", ofReview<&Review::OutFile>},
+    Variable{"FrmAnzeigen.LineBuf", ofReview<&Review::LineBuf>},
+    Variable{"FrmAnzeigen.ArhName", ofReview<&Review::ArhName>},
+    Variable{"FrmAnzeigen.VerifPath", ofReview<&Review::VerifPath>},
+    Variable{"FrmAnzeigen.RecCount", ofReview<&Review::RecCount>},
+    Variable{"FrmAnzeigen.SumQso", ofReview<&Review::SumQso>},
+    Variable{"FrmAnzeigen.SumPct", ofReview<&Review::SumPct>},
+    Variable{"FrmAnzeigen.BandFound", ofReview<&Review::BandFound>},
+    Variable{"FrmAnzeigen.EtapaFound", ofReview<&Review::EtapaFound>},
 };
 
 }  // namespace

@@ -1,4 +1,5 @@
-// Variables of the run state by name: those of Modul1, and with the name of the form those of the entry form.
+// Variables of the run state by name: those of Modul1, and with the name of the form those of the entry
+// form and of the review form.
 #pragma once
 
 #include <optional>

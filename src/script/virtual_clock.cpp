@@ -20,6 +20,12 @@ platform::LocalTime VirtualClock::now() const
     return std::chrono::floor<std::chrono::seconds>(calendarAtStart_ + elapsed_);
 }
 
+std::chrono::milliseconds VirtualClock::timeOfDay() const
+{
+    const auto now = calendarAtStart_ + elapsed_;
+    return std::chrono::floor<std::chrono::milliseconds>(now - std::chrono::floor<std::chrono::days>(now));
+}
+
 void VirtualClock::sleepUntil(platform::MonotonicTime deadline)
 {
     if (sleeper_)

@@ -16,6 +16,7 @@ class VirtualClock final : public platform::Clock {
     VirtualClock();
 
     platform::LocalTime now() const override;
+    std::chrono::milliseconds timeOfDay() const override;
     platform::MonotonicTime monotonic() const override { return elapsed_; }
     void sleepUntil(platform::MonotonicTime deadline) override;
 

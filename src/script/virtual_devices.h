@@ -48,13 +48,48 @@ class VirtualClipboard final : public platform::Clipboard {
     std::string text_;
 };
 
+/// Plays sound files by letting the time of their length go by.
 class VirtualSound final : public platform::Sound {
  public:
-    explicit VirtualSound(const MachineDescription& description) : description_(description) {}
+    VirtualSound(const MachineDescription& description, MachineRecord& record, platform::Clock& clock)
+        : description_(description), record_(record), clock_(clock)
+    {
+    }
     int outputDevices() const override { return description_.soundCard ? 1 : 0; }
+    void play(const std::string& path) override;
 
  private:
     const MachineDescription& description_;
+    MachineRecord& record_;
+    platform::Clock& clock_;
+};
+
+/// The one serial port of the machine, with a record of each change of its lines.
+class VirtualSerialPort final : public platform::SerialPort {
+ public:
+    VirtualSerialPort(const MachineDescription& description, MachineRecord& record, const platform::Clock& clock)
+        : description_(description), record_(record), clock_(clock)
+    {
+    }
+    void open(int number) override;
+    bool isOpen() const override { return open_; }
+    void setDtr(bool on) override { set(dtr_, "DTR", on); }
+    void setRts(bool on) override { set(rts_, "RTS", on); }
+    void close() noexcept override;
+
+    /// The adapter is pulled: the lines are gone with it.
+    void pull();
+
+ private:
+    void set(bool& line, const char* name, bool on);
+    void write(const std::string& what) { record_.serial.push_back({clock_.monotonic(), what}); }
+
+    const MachineDescription& description_;
+    MachineRecord& record_;
+    const platform::Clock& clock_;
+    bool open_ = false;
+    bool dtr_ = false;
+    bool rts_ = false;
 };
 
 class RecordedHelp final : public platform::HelpViewer {

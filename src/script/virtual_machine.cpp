@@ -18,9 +18,8 @@ fs::path bareAbsolute(const fs::path& folder)
 }  // namespace
 
 VirtualMachine::VirtualMachine(const fs::path& folder)
-    : installation_(platform::pathText(bareAbsolute(folder))), drivers_{boxes,    notices_,  clock,
-                                                                        keyboard, clipboard, sound_,
-                                                                        help_,    screen_,   installation_}
+    : installation_(platform::pathText(bareAbsolute(folder))), drivers_{boxes, notices_, clock, keyboard, clipboard, sound_, serialPort,
+help_, screen_, installation_}
 {
 }
 

@@ -27,6 +27,7 @@ class VirtualMachine {
     VirtualKeyboard keyboard;
     ScriptedBoxes boxes;
     VirtualClipboard clipboard;
+    VirtualSerialPort serialPort{description, record, clock};
 
     /// The drivers, for a program.
     platform::Machine& drivers() { return drivers_; }
@@ -42,7 +43,7 @@ class VirtualMachine {
 
  private:
     RecordedNotices notices_{record};
-    VirtualSound sound_{description};
+    VirtualSound sound_{description, record, clock};
     RecordedHelp help_{record, clock};
     VirtualScreen screen_{description};
     VirtualInstallation installation_;

@@ -88,10 +88,25 @@ std::string maratonLogOfBand(std::string_view band)
     return "SELECT * FROM UusLGYO2 WHERE Bnd='" + value(band) + "' ORDER BY ID ";
 }
 
+std::string maratonLogSortedByBand(std::string_view band)
+{
+    return "SELECT * FROM UusLGYO2 WHERE Bnd='" + value(band) + "' ORDER BY Bnd , ID; ";
+}
+
+std::string emptyTable(std::string_view table)
+{
+    return "DELETE * FROM " + text(table);
+}
+
 std::string maratonRowsOfCall(std::string_view call, std::string_view band, std::string_view date)
 {
     return "SELECT * FROM UusLGYO2 WHERE Callsign='" + value(call) + "' and Bnd='" + value(band) + "' and Data='" +
            value(date) + "'; ";
+}
+
+std::string sortedLocators()
+{
+    return "SELECT * From QRA ORDER BY Call";
 }
 
 std::string locatorOfCall(std::string_view call)

@@ -43,8 +43,17 @@ std::string zeroPointsOfCall(std::string_view table, std::string_view call);
 /// The Maraton log of one band.
 std::string maratonLogOfBand(std::string_view band);
 
+/// The same, as the review form asks for it.
+std::string maratonLogSortedByBand(std::string_view band);
+
+/// Takes all rows out of a table.
+std::string emptyTable(std::string_view table);
+
 /// QSOs of one call in the Maraton log on one band and day.
 std::string maratonRowsOfCall(std::string_view call, std::string_view band, std::string_view date);
+
+/// The locator memory, sorted by call.
+std::string sortedLocators();
 
 /// The entry of a call in the locator memory.
 std::string locatorOfCall(std::string_view call);

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <functional>
 #include <stdexcept>
 #include <string>
 
@@ -16,10 +17,12 @@ namespace test_page {
 
 class DesktopStation {
  public:
-    /// A first installation: three empty databases, no set-up files. The program is started and waits.
-    DesktopStation()
+    /// A first installation: three empty databases, no set-up files but those that `prepare` puts into the folder. The
+    /// program is started and waits.
+    explicit DesktopStation(const std::function<void(const std::string& folder)>& prepare = {})
     {
         storage::makeMissingDatabases(folder_.path().toStdString());
+        if (prepare) prepare(folder_.path().toStdString());
         program_ = std::make_unique<desktop::DesktopProgram>(
             desktop::readCommandLine({"kelvo", "--folder", folder_.path()}, folder_.path()));
         program_->start();
@@ -79,6 +82,8 @@ class DesktopStation {
     void keyUp(Qt::Key key) { QTest::keyRelease(&program_->form(), key); }
 
     QMessageBox* box() { return program_->box(); }
+    /// Takes the program away as a kill would.
+    void takeAway() { program_.reset(); }
     /// Presses a button of the box on the screen.
     void answer(QMessageBox::StandardButton button)
     {

@@ -3,7 +3,6 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
-#include <sstream>
 
 #include "desktop/command_line.h"
 #include "desktop/help_file.h"
@@ -11,7 +10,6 @@
 #include "desktop/machine_clock.h"
 #include "desktop/message_boxes.h"
 #include "desktop/notices.h"
-#include "desktop/sound_devices.h"
 
 namespace {
 
@@ -52,17 +50,6 @@ TEST(PolledKeysTest, ForgettingLeavesKeysDownThatAreDown)
     EXPECT_FALSE(keys.pressed(PolledKey::escape));
 }
 
-TEST(SoundDevicesTest, DevicesThatPlayAreCounted)
-{
-    std::istringstream streams(
-        "00-00: ALC257 Analog : ALC257 Analog : playback 1 : capture 1\n"
-        "00-03: HDMI 0 : HDMI 0 : playback 1\n"
-        "01-00: USB Microphone : USB Audio : capture 1\n");
-    EXPECT_EQ(desktop::playbackDevices(streams), 2);
-    std::istringstream none;
-    EXPECT_EQ(desktop::playbackDevices(none), 0);
-}
-
 TEST(CommandLineTest, WithoutArgumentsTheProgramStandsInItsOwnFolder)
 {
     const QTemporaryDir own;
@@ -94,6 +81,10 @@ class FixedClock final : public platform::Clock {
     {
         using namespace std::chrono;
         return local_days{year{2026} / 11 / 15} + hours{9} + minutes{5} + seconds{7};
+    }
+    std::chrono::milliseconds timeOfDay() const override
+    {
+        return now() - std::chrono::floor<std::chrono::days>(now());
     }
     platform::MonotonicTime monotonic() const override { return {}; }
     void sleepUntil(platform::MonotonicTime) override {}

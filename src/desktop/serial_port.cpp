@@ -1,0 +1,70 @@
+#include "desktop/serial_port.h"
+
+#include <utility>
+
+#include "base/runtime_error.h"
+#include "desktop/serial_device.h"
+
+namespace desktop {
+
+SerialLines::SerialLines(std::string programFolder) : programFolder_(std::move(programFolder))
+{
+}
+
+SerialLines::~SerialLines()
+{
+    close();
+    forgetDevice();
+}
+
+void SerialLines::open(int number)
+{
+    close();
+    if (!stillAnswers(number)) {
+        forgetDevice();
+        device_ = openPort(number, programFolder_);
+        number_ = number;
+    }
+    inUse_ = true;
+    priority_.emplace();
+}
+
+bool SerialLines::stillAnswers(int number)
+{
+    return device_ != nullptr && number_ == number && dropLines(*device_);
+}
+
+void SerialLines::setDtr(bool on)
+{
+    set(QSerialPort::DataTerminalReadySignal, on);
+}
+
+void SerialLines::setRts(bool on)
+{
+    set(QSerialPort::RequestToSendSignal, on);
+}
+
+void SerialLines::set(QSerialPort::PinoutSignal line, bool on)
+{
+    if (!inUse_) throw base::RuntimeError(base::existsOrNoAccess, "The serial port is not open");
+    if (switchLine(*device_, line, on)) return;
+    forgetDevice();
+    throw base::RuntimeError(base::existsOrNoAccess, "The serial port went away in the middle of a message");
+}
+
+void SerialLines::close() noexcept
+{
+    if (!inUse_) return;
+    inUse_ = false;
+    priority_.reset();
+    if (!dropLines(*device_)) forgetDevice();
+}
+
+void SerialLines::forgetDevice() noexcept
+{
+    inUse_ = false;
+    priority_.reset();
+    device_.reset();
+}
+
+}  // namespace desktop

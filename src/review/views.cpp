@@ -1,0 +1,153 @@
+#include "review/views.h"
+
+#include <string>
+
+#include "band/maraton_totals.h"
+#include "base/runtime_error.h"
+#include "review/log_view.h"
+#include "review/page.h"
+#include "review/reset.h"
+#include "review/sums.h"
+#include "runstate/modul1.h"
+#include "screen/grid_layout.h"
+#include "storage/log_statements.h"
+
+namespace review {
+
+namespace {
+
+constexpr int maraton = 7;
+constexpr int international = 100;
+constexpr std::int32_t locatorMemory = 22;
+
+/// A log that a view button shows, and the sum that belongs to it.
+struct View {
+    std::int32_t band;
+    const char* stage;
+    void (*sum)();
+};
+
+constexpr View log144a = {144, "A", Summe144a};
+constexpr View log144b = {144, "B", Summe144b};
+constexpr View log432a = {432, "A", Summe432a};
+constexpr View log432b = {432, "B", Summe432b};
+constexpr View log1296a = {1296, "A", Summe1296a};
+constexpr View log1296b = {1296, "B", Summe1296b};
+constexpr View logGHz = {entry::bandGHz, "", SummeGHz};
+
+void showLog(const View& view)
+{
+    Modul1.BandCur = view.band;
+    // The GHz log has no stage; the one in hand stays.
+    if (view.band != entry::bandGHz) Modul1.Etapa = view.stage;
+    Modul1.GridRebuild = 1000;
+    showNewest(*logViewFor(view.band, view.stage));
+    view.sum();
+    FrmAnzeigen.Frame5.Visible = false;
+}
+
+void showMaratonLog(std::int32_t bandMHz)
+{
+    const band::MaratonBand& band = *band::maratonBandsFrom(bandMHz).front();
+    Modul1.BandYO = band.name;
+    SummeYO2();
+    showSum(Modul1.*band.Pct, Modul1.*band.Qso);
+    ViewLogGen();
+    FrmAnzeigen.Frame5.Visible = false;
+}
+
+/// Where the international contest has another log behind a button than the contests of bands and stages.
+void showByContest(const View& ordinary, const View& inInternational)
+{
+    showLog(Modul1.ConcId == international ? inInternational : ordinary);
+}
+
+}  // namespace
+
+void mnuLogAnzeigen_Click()
+{
+    Anulat();
+    FrmAnzeigen.TxtFoc.SetFocus();
+    for (screen::Frame* frame : {&FrmAnzeigen.Frame2, &FrmAnzeigen.Frame3, &FrmAnzeigen.Frame6, &FrmAnzeigen.Frame8})
+        frame->Visible = false;
+    FrmAnzeigen.Frame1.Visible = true;
+    FrmAnzeigen.Frame4.Visible = true;
+    showViewButtons();
+    Modul1.PrintSel = 1;
+    FrmAnzeigen.OutMode = 0;
+    FrmAnzeigen.TxtFoc.SetFocus();
+}
+
+void OpB144a_Click()
+{
+    if (Modul1.ConcId == maraton) return showMaratonLog(144);
+    showLog(log144a);
+}
+
+void Opb144b_Click()
+{
+    if (Modul1.ConcId == maraton) return showMaratonLog(432);
+    showByContest(log144b, log432a);
+}
+
+void OpB432a_Click()
+{
+    showByContest(log432a, log1296a);
+    if (Modul1.ConcId == maraton) showMaratonLog(432);
+}
+
+void OpB432b_Click()
+{
+    showByContest(log432b, logGHz);
+}
+
+void OpB1296a_Click()
+{
+    showLog(log1296a);
+    if (Modul1.ConcId == maraton) showMaratonLog(1296);
+}
+
+void OpB1296b_Click()
+{
+    showLog(log1296b);
+}
+
+void OpBQRALoc_Click()
+{
+    FrmAnzeigen.Frame4.Visible = true;
+    Modul1.BandCur = locatorMemory;
+    SortQRA();
+}
+
+void ViewLogGen()
+{
+    base::quietly<base::noCurrentRecord>([] {
+        Modul1.GridRebuild = 1000;
+        FrmAnzeigen.UusLGYO2.RecordSource = storage::maratonLogSortedByBand(Modul1.BandYO);
+        FrmAnzeigen.UusLGYO2.Refresh();
+        base::passing<base::noCurrentRecord>([] { FrmAnzeigen.UusLGYO2.Recordset.MoveLast(); });
+        screen::layOutUusLGYO2();
+    });
+}
+
+void rowTouched()
+{
+    if (Modul1.PrintSel == 1) FrmAnzeigen.Frame5.Visible = true;
+    Modul1.PrintSel = 0;
+}
+
+void SortQRA()
+{
+    base::ResumeNext go;
+    FrmAnzeigen.QRA.RecordSource = storage::sortedLocators();
+    go([] { FrmAnzeigen.QRA.Refresh(); });
+    go(screen::layOutQra);
+}
+
+void GrInv()
+{
+    for (screen::Control* control : FrmAnzeigen.controls())
+        if (control->kind == screen::Kind::grid) control->Visible = false;
+}
+
+}  // namespace review

@@ -1,0 +1,54 @@
+#include "script/virtual_devices.h"
+
+#include "base/number.h"
+#include "base/runtime_error.h"
+#include "platform/files.h"
+#include "platform/sound_file.h"
+
+namespace script {
+
+void VirtualSound::play(const std::string& path)
+{
+    const std::filesystem::path file = platform::resolve(path);
+    std::error_code error;
+    const bool there = std::filesystem::exists(file, error);
+    // Under the name that the program asks for, however the file spells it.
+    const std::string name = path.substr(path.find_last_of("/\\") + 1);
+    record_.sounds.push_back({clock_.monotonic(), there ? name : name + " missing"});
+    const auto length = platform::soundLength(file);
+    if (length) clock_.sleepUntil(clock_.monotonic() + *length);
+}
+
+void VirtualSerialPort::open(int number)
+{
+    if (description_.port != number || description_.portPulled)
+        throw base::RuntimeError(base::noSuchPort, "There is no serial port " + base::toText(number));
+    open_ = true;
+    write("open " + base::toText(number));
+}
+
+void VirtualSerialPort::close() noexcept
+{
+    if (!open_) return;
+    set(dtr_, "DTR", false);
+    set(rts_, "RTS", false);
+    open_ = false;
+    write("close");
+}
+
+void VirtualSerialPort::pull()
+{
+    if (!open_) return;
+    open_ = dtr_ = rts_ = false;
+    write("close");
+}
+
+void VirtualSerialPort::set(bool& line, const char* name, bool on)
+{
+    if (!open_) throw base::RuntimeError(base::existsOrNoAccess, "The serial port is gone");
+    if (line == on) return;
+    line = on;
+    write(std::string(name) + (on ? " on" : " off"));
+}
+
+}  // namespace script
