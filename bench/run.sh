@@ -23,6 +23,8 @@ echo "== reviewing a big log"
 ./review_bench "${interleaved[@]}"
 echo "== a row deleted, and a paper log"
 ./correction_bench "${interleaved[@]}"
+echo "== a big log written for the organisers"
+./export_bench "${interleaved[@]}"
 echo "== sleeping to a deadline (ms late)"
 ./deadline_bench
 echo "== keying (ms off)"

@@ -3,9 +3,9 @@
 # The compiler and the logic of the program.
 build_packages=(g++ cmake ninja-build libsqlite3-dev)
 # The desktop program.
-desktop_packages=(qt6-base-dev qt6-serialport-dev libopenal-dev libasound2 fonts-dejavu-core)
+desktop_packages=(qt6-base-dev qt6-serialport-dev libopenal-dev libasound2 fonts-dejavu-core fonts-liberation)
 # Tests, checks and benchmarks; real keys into a real window.
-test_packages=(libgtest-dev libgmock-dev libbenchmark-dev clang-format clang-tidy xvfb xdotool sqlite3)
+test_packages=(libgtest-dev libgmock-dev libbenchmark-dev clang-format clang-tidy xvfb xdotool sqlite3 poppler-utils)
 
 # install_packages NAME...: installs those that are not there yet. Says so when it may not.
 install_packages() {

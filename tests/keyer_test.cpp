@@ -19,7 +19,6 @@
 namespace {
 
 using platform::MonotonicTime;
-using platform::PolledKey;
 using std::chrono::milliseconds;
 using test::LineLog;
 

@@ -31,7 +31,9 @@ const CallRow callRows[] = {
     {"YO9XYZ/Ş", "YO9XYZ"},
     {"YO9XYZ/M/P", "YO9XYZ"},
     {"YO9XYZ/P/P", "YO9XYZ"},
-    {"YO9XYZ/P/M", "YO9XYZ/P"},
+    {"YO9XYZ/P/p", "YO9XYZ"},
+    {"YO9XYZ/p/P", "YO9XYZ"},
+    {"YO9XYZ/P/M", "P"},
     // Maritime mobile and low power, in capitals only.
     {"YO9XYZ/MM", "YO9XYZ"},
     {"YO9XYZ/QRP", "YO9XYZ"},

@@ -4,6 +4,7 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -422,6 +423,188 @@ TEST_F(RecordSetTest, placeOfARowThatIsGone)
     EXPECT_EQ(callsOf(rows.rowsBefore(anchor, 2)), (Texts{"YO00003", "YO00004"}));
 }
 
+/// Shares of sets in several orders. The model counts, as the program does not.
+class RecordSetShare : public RecordSetTest {
+ protected:
+    static Row rowOf(const RecordSet& rows, double share)
+    {
+        const std::vector<Row> found = rows.rowsAtShare(share, 1);
+        return found.empty() ? Row{} : found.front();
+    }
+
+    static std::vector<std::int64_t> keysOf(const std::vector<Row>& rows)
+    {
+        std::vector<std::int64_t> keys;
+        for (const Row& row : rows)
+            keys.push_back(row.key);
+        return keys;
+    }
+
+    /// From end to end and back: ever later rows, from the first to the last; shares that grow with the rows.
+    static void expectEvenlyRising(const RecordSet& rows)
+    {
+        const std::vector<Row> all = rows.firstRows(static_cast<std::size_t>(rows.RecordCount()));
+        const std::vector<std::int64_t> keys = keysOf(all);
+        const auto rankOf = [&](const Row& row) { return std::find(keys.begin(), keys.end(), row.key) - keys.begin(); };
+        constexpr int steps = 500;
+        std::ptrdiff_t before = 0;
+        for (int step = 0; step < steps; ++step) {
+            const std::ptrdiff_t rank = rankOf(rowOf(rows, static_cast<double>(step) / steps));
+            EXPECT_GE(rank, before) << step;
+            before = rank;
+        }
+        EXPECT_EQ(rankOf(rowOf(rows, 0)), 0);
+        EXPECT_EQ(rowOf(rows, 1).key, keys.back());
+
+        double shareBefore = 0;
+        for (const Row& row : all) {
+            const double share = rows.shareBefore(row);
+            EXPECT_GE(share, shareBefore) << row.key;
+            shareBefore = share;
+        }
+        EXPECT_DOUBLE_EQ(rows.shareBefore(all.front()), 0);
+        EXPECT_DOUBLE_EQ(shareBefore, all.size() == 1 ? 0 : 1);
+    }
+
+    /// How far shares are from what a count would give.
+    static double worstError(const RecordSet& rows)
+    {
+        const std::vector<Row> all = rows.firstRows(static_cast<std::size_t>(rows.RecordCount()));
+        double worst = 0;
+        for (std::size_t rank = 0; rank < all.size(); ++rank) {
+            const double truth = static_cast<double>(rank) / static_cast<double>(all.size() - 1);
+            worst = std::max(worst, std::abs(rows.shareBefore(all[rank]) - truth));
+        }
+        return worst;
+    }
+
+    /// `count` rows in one go, their values told from their number i, from 0.
+    static void insert(storage::Database& database, const std::string& table, int count, const std::string& values)
+    {
+        database.Execute("WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n WHERE i + 1 < " +
+                         base::toText(count) + ") INSERT INTO " + table + " SELECT " + values + " FROM n");
+    }
+
+    /// Calls as a contest brings them, in no order: nine of ten from one country, and the others from all over.
+    void fillWithCalls(const std::string& table, int count)
+    {
+        const std::string scattered = "(i * 7919 % 10007)";
+        insert(log_, table + " (Callsign)", count,
+               "CASE WHEN i % 10 > 0 THEN 'YO' ELSE char(65 + " + scattered + " % 26, 65 + " + scattered +
+                   " / 26 % 26) END || (" + scattered + " % 10) || char(65 + " + scattered + " / 10 % 26, 65 + " +
+                   scattered + " / 260 % 26, 65 + i % 26)");
+    }
+};
+
+TEST_F(RecordSetShare, InTheOrderOfTheKeysComesFromTheKeys)
+{
+    fill(log_, "Uus144a", 101);
+    const RecordSet rows = open("SELECT * FROM Uus144a ");
+    const std::vector<Row> all = rows.firstRows(200);
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        EXPECT_DOUBLE_EQ(rows.shareBefore(all[i]), static_cast<double>(i) / 100);
+        EXPECT_EQ(rowOf(rows, static_cast<double>(i) / 100).key, all[i].key) << "there and back";
+    }
+    EXPECT_EQ(keysOf(rows.rowsAtShare(0.5, 3)), (std::vector<std::int64_t>{51, 52, 53}));
+    EXPECT_EQ(keysOf(rows.rowsAtShare(0.99, 3)), (std::vector<std::int64_t>{100, 101}));
+    EXPECT_EQ(rowOf(rows, -1).key, 1);
+    EXPECT_EQ(rowOf(rows, 2).key, 101);
+    expectEvenlyRising(rows);
+}
+
+TEST_F(RecordSetShare, BehindAGapTheNextRowIsTaken)
+{
+    fill(log_, "Uus144a", 100);
+    log_.Execute("DELETE * FROM Uus144a WHERE ID>20 AND ID<81");
+    const RecordSet rows = open("SELECT * FROM Uus144a ");
+    EXPECT_EQ(rowOf(rows, 0.5).key, 81);
+    EXPECT_DOUBLE_EQ(rows.shareBefore(rows.rowsAtShare(0.5, 1).front()), 80.0 / 99);
+    expectEvenlyRising(rows);
+}
+
+TEST_F(RecordSetShare, FollowsADeletionAtAnEnd)
+{
+    fill(log_, "Uus144a", 21);
+    RecordSet rows = open("SELECT * FROM Uus144a ");
+    EXPECT_DOUBLE_EQ(rows.shareBefore(rows.lastRows(1).front()), 1);
+    log_.Execute("DELETE * FROM Uus144a WHERE ID<11");
+    EXPECT_DOUBLE_EQ(rows.shareBefore(rows.firstRows(1).front()), 0);
+    EXPECT_EQ(rowOf(rows, 0.5).key, 16);
+    rows.MoveFirst();
+    const Row gone = rows.firstRows(1).front();
+    rows.Delete();
+    EXPECT_DOUBLE_EQ(rows.shareBefore(gone), 0);
+}
+
+TEST_F(RecordSetShare, OfOneRowAndOfNone)
+{
+    for (const char* order : {"", "ORDER BY Callsign"}) {
+        log_.Execute("DELETE * FROM Uus144a");
+        const RecordSet none = open(std::string("SELECT * FROM Uus144a ") + order);
+        EXPECT_TRUE(none.rowsAtShare(0.5, 5).empty());
+        EXPECT_DOUBLE_EQ(none.shareBefore({}), 0);
+        add("YO2ABC");
+        const RecordSet one = open(std::string("SELECT * FROM Uus144a ") + order);
+        for (const double share : {0.0, 0.5, 1.0})
+            EXPECT_EQ(callsOf(one.rowsAtShare(share, 5)), Texts{"YO2ABC"});
+        EXPECT_DOUBLE_EQ(one.shareBefore(one.firstRows(1).front()), 0);
+    }
+}
+
+TEST_F(RecordSetShare, OneBandOfAllIsInTheOrderOfItsKeys)
+{
+    insert(log_, "UusLGYO2 (Callsign, Bnd)", 120, "'YO' || i, CASE i % 3 WHEN 0 THEN '144' WHEN 1 THEN '432' END");
+    for (const char* order : {"ORDER BY Bnd , ID; ", "ORDER BY ID ", ""}) {
+        const RecordSet rows = open(std::string("SELECT * FROM UusLGYO2 WHERE Bnd='432' ") + order);
+        EXPECT_EQ(keysOf(rows.rowsAtShare(0.5, 2)), (std::vector<std::int64_t>{62, 65})) << order;
+        EXPECT_DOUBLE_EQ(rows.shareBefore(rows.firstRows(11).back()), 10.0 / 39);
+        expectEvenlyRising(rows);
+    }
+}
+
+TEST_F(RecordSetShare, SortedByCallItComesNearToACount)
+{
+    fillWithCalls("Uus144a", 2000);
+    const RecordSet rows = open("SELECT * FROM Uus144a ORDER BY Callsign");
+    expectEvenlyRising(rows);
+    EXPECT_LT(worstError(rows), 0.1);
+}
+
+TEST_F(RecordSetShare, OfANarrowedLog)
+{
+    fillWithCalls("Uus144a", 2000);
+    for (const char* start : {"Y", "YO", "YO3", "YO3A"}) {
+        const RecordSet rows =
+            open("SELECT * FROM Uus144a WHERE Callsign LIKE '" + std::string(start) + "*' ORDER BY Callsign ; ");
+        ASSERT_GT(rows.RecordCount(), 1) << start;
+        expectEvenlyRising(rows);
+    }
+}
+
+TEST_F(RecordSetShare, OfTheSameCallsOverAndOver)
+{
+    insert(log_, "Uus144a (Callsign)", 300, "CASE i % 3 WHEN 0 THEN 'YO2ABC' WHEN 1 THEN 'yo2abc' ELSE 'YO3XYZ' END");
+    const RecordSet rows = open("SELECT * FROM Uus144a ORDER BY Callsign");
+    expectEvenlyRising(rows);
+    EXPECT_LT(worstError(rows), 0.1);
+}
+
+TEST_F(RecordSetShare, OfNullsAndEmptyTexts)
+{
+    insert(log_, "UusLGYO2 (Callsign, Bnd)", 120,
+           "'YO2ABC', CASE i % 4 WHEN 0 THEN '' WHEN 1 THEN '144' WHEN 2 THEN '1296' END");
+    expectEvenlyRising(open("SELECT * FROM UusLGYO2 ORDER BY Bnd , ID "));
+}
+
+TEST_F(RecordSetShare, OfTheLocatorMemory)
+{
+    storage::Database memory = storage::OpenDatabase(folder_.designPath("DbsKelvo.mdb"));
+    insert(memory, "QRA (Call, QRA_LOC)", 500, "'YO' || (i * 37 % 500), 'KN16AA'");
+    const RecordSet rows = memory.OpenRecordset("SELECT * From QRA ORDER BY Call");
+    expectEvenlyRising(rows);
+    EXPECT_LT(worstError(rows), 0.1);
+}
+
 TEST_F(RecordSetTest, everyOpeningIsAnotherGeneration)
 {
     const RecordSet first = open("SELECT * FROM Uus144a");
@@ -545,6 +728,29 @@ TEST_F(RecordSetCost, lastRowWithPoints)
         rows.MoveLast();
         EXPECT_FALSE(rows.Field("Sent").empty());
     });
+}
+
+TEST_F(RecordSetCost, rowsAtAShareOfTheLog)
+{
+    expectTheSameAtAnySize([](const storage::Database& database) {
+        const RecordSet rows = database.OpenRecordset("SELECT * FROM Uus144a ");
+        for (const double share : {0.1, 0.5, 0.9}) {
+            const Row row = rows.rowsAtShare(share, 20).front();
+            EXPECT_NEAR(rows.shareBefore(row), share, 0.01);
+        }
+    });
+}
+
+TEST_F(RecordSetCost, rowsAtAShareOfASortedLog)
+{
+    // The sample is as big at any size, but in a short log its rows lie together.
+    constexpr std::uint64_t sample = 128;
+    const auto drag = [](const storage::Database& database) {
+        const RecordSet rows = database.OpenRecordset("SELECT * FROM Uus144a ORDER BY Callsign");
+        EXPECT_EQ(rows.rowsAtShare(0.5, 20).size(), 20U);
+        EXPECT_EQ(rows.rowsAtShare(0.25, 20).size(), 20U);
+    };
+    EXPECT_LE(readsFor(30000, "Uus144a", drag), readsFor(300, "Uus144a", drag) + 2 * sample + 40);
 }
 
 TEST_F(RecordSetCost, duplicateAndBandOfTheMaratonLog)

@@ -90,7 +90,7 @@ TEST_F(SoundFile, OfEachCommonFormatHasItsLength)
                 const Sound sound{pcm, channels, samples, bits};
                 SCOPED_TRACE(testing::Message() << bits << " bits, " << samples << " Hz, " << channels << " channels");
                 EXPECT_EQ(lengthOf(soundOf(sound, sound.bytesPerSecond())), milliseconds(1000));
-                EXPECT_EQ(lengthOf(soundOf(sound, sound.bytesPerSecond() * 3)), milliseconds(3000));
+                EXPECT_EQ(lengthOf(soundOf(sound, std::size_t{3} * sound.bytesPerSecond())), milliseconds(3000));
                 EXPECT_EQ(lengthOf(riff(chunk("fmt ", longFormatOf(sound, pcm)) +
                                         chunk("data", std::string(sound.bytesPerSecond(), '\0')))),
                           milliseconds(1000));

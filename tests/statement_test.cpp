@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "base/runtime_error.h"
 #include "storage/like_pattern.h"
@@ -34,30 +35,32 @@ void expectSelection(const std::string& text, const Selection& expected)
     EXPECT_EQ(selection.table, expected.table) << text;
     EXPECT_EQ(selection.condition, expected.condition) << text;
     EXPECT_EQ(selection.order, expected.order) << text;
+    EXPECT_EQ(selection.fixed, expected.fixed) << text;
 }
 
 TEST(Selection, takesApartTheStatementsOfTheProgram)
 {
-    expectSelection("SELECT * FROM Uus144a ", {"Uus144a", "", {}});
-    expectSelection("SELECT * FROM Uus144a", {"Uus144a", "", {}});
-    expectSelection("SELECT * FROM Uus144a WHERE Callsign='YO2ABC'; ", {"Uus144a", "Callsign='YO2ABC'", {}});
+    expectSelection("SELECT * FROM Uus144a ", {"Uus144a", "", {}, {}});
+    expectSelection("SELECT * FROM Uus144a", {"Uus144a", "", {}, {}});
+    expectSelection("SELECT * FROM Uus144a WHERE Callsign='YO2ABC'; ",
+                    {"Uus144a", "Callsign='YO2ABC'", {}, {"Callsign"}});
     expectSelection("SELECT * FROM Uus144a WHERE Callsign='YO2ABC'AND Mode='CW'; ",
-                    {"Uus144a", "Callsign='YO2ABC'AND Mode='CW'", {}});
+                    {"Uus144a", "Callsign='YO2ABC'AND Mode='CW'", {}, {"Callsign", "Mode"}});
     expectSelection("SELECT * FROM UusGHz WHERE Callsign='YO2ABC' AND Freq ='2320'; ",
-                    {"UusGHz", "Callsign='YO2ABC' AND Freq ='2320'", {}});
-    expectSelection("SELECT * FROM Uus144a WHERE Pct>''; ", {"Uus144a", "Pct>''", {}});
-    expectSelection("SELECT * FROM UusLGYO2 ORDER BY ID", {"UusLGYO2", "", {"ID"}});
-    expectSelection("SELECT * FROM UusLGYO2 ORDER BY Bnd , ID ", {"UusLGYO2", "", {"Bnd", "ID"}});
-    expectSelection("SELECT * FROM UusLGYO2 WHERE Bnd='144' ORDER BY ID ", {"UusLGYO2", "Bnd='144'", {"ID"}});
+                    {"UusGHz", "Callsign='YO2ABC' AND Freq ='2320'", {}, {"Callsign", "Freq"}});
+    expectSelection("SELECT * FROM Uus144a WHERE Pct>''; ", {"Uus144a", "Pct>''", {}, {}});
+    expectSelection("SELECT * FROM UusLGYO2 ORDER BY ID", {"UusLGYO2", "", {"ID"}, {}});
+    expectSelection("SELECT * FROM UusLGYO2 ORDER BY Bnd , ID ", {"UusLGYO2", "", {"Bnd", "ID"}, {}});
+    expectSelection("SELECT * FROM UusLGYO2 WHERE Bnd='144' ORDER BY ID ", {"UusLGYO2", "Bnd='144'", {"ID"}, {"Bnd"}});
     expectSelection("SELECT * FROM UusLGYO2 WHERE Bnd='144' ORDER BY Bnd , ID; ",
-                    {"UusLGYO2", "Bnd='144'", {"Bnd", "ID"}});
-    expectSelection("SELECT * From QRA ORDER BY Call", {"QRA", "", {"Call"}});
+                    {"UusLGYO2", "Bnd='144'", {"Bnd", "ID"}, {"Bnd"}});
+    expectSelection("SELECT * From QRA ORDER BY Call", {"QRA", "", {"Call"}, {}});
 }
 
 TEST(Selection, takesABareTableName)
 {
-    expectSelection("QRA", {"QRA", "", {}});
-    expectSelection(" Uus144a ; ", {"Uus144a", "", {}});
+    expectSelection("QRA", {"QRA", "", {}, {}});
+    expectSelection(" Uus144a ; ", {"Uus144a", "", {}, {}});
 }
 
 TEST(Selection, givesTheSearchForCallsARange)
@@ -65,22 +68,36 @@ TEST(Selection, givesTheSearchForCallsARange)
     expectSelection("SELECT * FROM Uus144A WHERE Callsign LIKE 'YO2*' ORDER BY Callsign ; ",
                     {"Uus144A",
                      "(Callsign LIKE 'YO2*' AND Callsign >= 'YO2' COLLATE NOCASE AND Callsign < 'YO3' COLLATE NOCASE)",
-                     {"Callsign"}});
+                     {"Callsign"},
+                     {}});
 }
 
 TEST(Selection, givesNoRangeWhereNoHeadIsLiteralOrTheLikeIsNotWhole)
 {
-    expectSelection("SELECT * FROM T WHERE Callsign LIKE '*'", {"T", "Callsign LIKE '*'", {}});
-    expectSelection("SELECT * FROM T WHERE Call || QRA_LOC LIKE 'YO*'", {"T", "Call || QRA_LOC LIKE 'YO*'", {}});
-    expectSelection("SELECT * FROM T WHERE Call LIKE 'YO' || '*'", {"T", "Call LIKE 'YO' || '*'", {}});
+    expectSelection("SELECT * FROM T WHERE Callsign LIKE '*'", {"T", "Callsign LIKE '*'", {}, {}});
+    expectSelection("SELECT * FROM T WHERE Call || QRA_LOC LIKE 'YO*'", {"T", "Call || QRA_LOC LIKE 'YO*'", {}, {}});
+    expectSelection("SELECT * FROM T WHERE Call LIKE 'YO' || '*'", {"T", "Call LIKE 'YO' || '*'", {}, {}});
     expectSelection("SELECT * FROM T WHERE ID BETWEEN 1 AND Call LIKE 'YO*'",
-                    {"T", "ID BETWEEN 1 AND Call LIKE 'YO*'", {}});
+                    {"T", "ID BETWEEN 1 AND Call LIKE 'YO*'", {}, {}});
 }
 
 TEST(Selection, leavesQuotedTextsAlone)
 {
     expectSelection("SELECT * FROM T WHERE A='x LIKE ''y*'' ORDER BY ; WHERE'",
-                    {"T", "A='x LIKE ''y*'' ORDER BY ; WHERE'", {}});
+                    {"T", "A='x LIKE ''y*'' ORDER BY ; WHERE'", {}, {"A"}});
+}
+
+TEST(Selection, knowsWhichColumnsHaveOneValue)
+{
+    const auto fixed = [](const std::string& condition) {
+        return parseSelection("SELECT * FROM T WHERE " + condition + " ORDER BY A").fixed;
+    };
+    using Names = std::vector<std::string>;
+    EXPECT_EQ(fixed("A='1'"), Names{"A"});
+    EXPECT_EQ(fixed("[A]='1' and B='2'"), (Names{"A", "B"}));
+    for (const char* condition : {"A='1' OR B='2'", "NOT A='1'", "A<'1'", "A='1' || 'x'", "A=B", "(A='1')",
+                                  "A='1' AND B LIKE '2'", "A='1' AND NOT B='2'"})
+        EXPECT_EQ(fixed(condition), Names{}) << condition;
 }
 
 TEST(Selection, refusesWhatFollowsTheFirstStatement)

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -89,10 +90,9 @@ class ReviewSums : public test::FilledLog {
 
     static void expectShown(int qsos, int points)
     {
-        for (const screen::Control* control :
-             std::initializer_list<const screen::Control*>{&FrmAnzeigen.Frame4, &FrmAnzeigen.LblQSO,
-                                                           &FrmAnzeigen.LblQSO1, &FrmAnzeigen.LblPkt,
-                                                           &FrmAnzeigen.LblPkt1})
+        for (const screen::Control* control : std::initializer_list<const screen::Control*>{
+                 &FrmAnzeigen.Frame4, &FrmAnzeigen.LblQSO, &FrmAnzeigen.LblQSO1, &FrmAnzeigen.LblPkt,
+                 &FrmAnzeigen.LblPkt1})
             EXPECT_TRUE(control->seen()) << control->name;
         EXPECT_EQ(FrmAnzeigen.LblQSO1.Caption, std::to_string(qsos));
         EXPECT_EQ(FrmAnzeigen.LblPkt1.Caption, std::to_string(points));
@@ -107,23 +107,25 @@ class ReviewSums : public test::FilledLog {
     /// What one table comes to with these points, given as they stand between the commas.
     int sumOf(const std::vector<const char*>& points)
     {
-        empty("Uus144a");
-        for (const char* each : points)
-            addPoints("Uus144a", each);
+        test::PlainLog log(program.folder() / "LogKelvo.mdb");
+        log.execute("BEGIN");
+        log.execute("DELETE FROM Uus144a");
+        for (const std::string each : points)
+            log.execute("INSERT INTO Uus144a (Callsign, Pct) VALUES ('YO2ABC', " + each + ")");
+        log.execute("COMMIT");
         review::Summe144a();
         EXPECT_EQ(Modul1.Qso144a, points.size());
         return Modul1.Pct144a;
     }
 
-    void execute(const std::string& statement)
-    {
-        test::PlainLog(program.folder() / "LogKelvo.mdb").execute(statement);
-    }
+    void execute(const std::string& statement) { test::PlainLog(program.folder() / "LogKelvo.mdb").execute(statement); }
 
     void addMany(const std::string& table, int rows, const std::string& points)
     {
-        execute("INSERT INTO " + table + " (Callsign, Pct) WITH RECURSIVE row(n) AS (SELECT 1 UNION ALL SELECT n + 1 "
-                "FROM row WHERE n < " + std::to_string(rows) + ") SELECT 'YO2ABC', '" + points + "' FROM row");
+        execute("INSERT INTO " + table +
+                " (Callsign, Pct) WITH RECURSIVE row(n) AS (SELECT 1 UNION ALL SELECT n + 1 "
+                "FROM row WHERE n < " +
+                std::to_string(rows) + ") SELECT 'YO2ABC', '" + points + "' FROM row");
     }
 };
 
@@ -144,7 +146,8 @@ TEST_F(ReviewSums, AreThoseOfTheirTable)
         expectFigures(row, 3, points + 5);
         expectInView(row);
         EXPECT_EQ((FrmAnzeigen.*row.data).RecordSource, "SELECT * FROM " + std::string(row.table));
-        EXPECT_EQ((FrmAnzeigen.*row.data).Recordset.Field("Pct"), std::to_string(points)) << "the newest row is current";
+        EXPECT_EQ((FrmAnzeigen.*row.data).Recordset.Field("Pct"), std::to_string(points))
+            << "the newest row is current";
         points += 100;
     }
     EXPECT_TRUE(program.notices().empty());
@@ -206,12 +209,30 @@ TEST_F(ReviewSums, ReadSixCharactersOfThePoints)
         const char* points;
         int value;
     } rows[] = {
-        {"'0'", 0},           {"'7'", 7},          {"'999999'", 999999},     {"'1234567'", 123456},
-        {"'12345678'", 123456}, {"'1000000'", 100000}, {"'-12345'", -12345},     {"'-123456'", -12345},
-        {"'   123'", 123},    {"'    1234'", 12},  {"'12345.9'", 12345},     {"'1234.9'", 1235},
-        {"'+5'", 5},          {"'3 Km'", 3},       {"'12a45'", 12},          {"'abc'", 0},
-        {"'a12'", 0},         {"''", 0},           {"'      99'", 0},        {"NULL", 0},
-        {"'--5'", 0},         {"'1e5'", 1},        {"'şţă123'", 0},          {"'.75'", 1},
+        {"'0'", 0},
+        {"'7'", 7},
+        {"'999999'", 999999},
+        {"'1234567'", 123456},
+        {"'12345678'", 123456},
+        {"'1000000'", 100000},
+        {"'-12345'", -12345},
+        {"'-123456'", -12345},
+        {"'   123'", 123},
+        {"'    1234'", 12},
+        {"'12345.9'", 12345},
+        {"'1234.9'", 1235},
+        {"'+5'", 5},
+        {"'3 Km'", 3},
+        {"'12a45'", 12},
+        {"'abc'", 0},
+        {"'a12'", 0},
+        {"''", 0},
+        {"'      99'", 0},
+        {"NULL", 0},
+        {"'--5'", 0},
+        {"'1e5'", 1},
+        {"'şţă123'", 0},
+        {"'.75'", 1},
     };
     for (const auto& row : rows) {
         EXPECT_EQ(sumOf({row.points}), row.value) << row.points;

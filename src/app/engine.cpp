@@ -112,6 +112,10 @@ void Engine::runHandlersOf(const QueueEntry& entry)
         {
             engine.gridViews_.scroll(static_cast<const screen::Grid&>(*e.control), e.rows, e.capacity);
         }
+        void operator()(const GridDragged& e) const
+        {
+            engine.gridViews_.drag(static_cast<const screen::Grid&>(*e.control), e.place, e.capacity);
+        }
         void operator()(const CloseAsked&) const
         {
             const screen::Form* form = screen::activeForm();
@@ -266,10 +270,11 @@ void Engine::press(Addressee to, const Key& key)
     if (form == nullptr) return;
     if (isMnemonic(key)) {
         Control* named = screen::controlWithMnemonic(*form, key.character);
-        if (named != nullptr) clicked(*named);
-        return;
+        if (named == nullptr) return;
+        if (named->kind == Kind::frame) return takeFocus(*screen::firstStopIn(*named));
+        return clicked(*named);
     }
-    if (actsOnGrid(key)) return;
+    if (actsOnGrid(key, gridViews_)) return;
     if (key.code == platform::keyTab && !key.ctrl && !key.alt) {
         Control* next = nextStop(*form, to.field, key.shift);
         if (next != nullptr) return next->SetFocus();

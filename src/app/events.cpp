@@ -13,9 +13,14 @@
 #include "entry/time_fields.h"
 #include "entry/undo.h"
 #include "keyer/messages.h"
+#include "review/archive.h"
 #include "review/correction.h"
+#include "review/edi_road.h"
 #include "review/emptying.h"
+#include "review/export_road.h"
 #include "review/page.h"
+#include "review/print_road.h"
+#include "review/station_data.h"
 #include "review/views.h"
 #include "runstate/contests.h"
 #include "runstate/road.h"
@@ -123,8 +128,8 @@ void wireMessages()
     FrmQSO.TxtF5.KeyDown = keyer::TxtF5_KeyDown;
     FrmQSO.TxtF6.KeyDown = keyer::TxtF6_KeyDown;
     FrmQSO.TxtF7.KeyDown = keyer::TxtF7_KeyDown;
-    for (screen::TextBox* box : {&FrmQSO.TxtF1, &FrmQSO.TxtF2, &FrmQSO.TxtF3, &FrmQSO.TxtF4, &FrmQSO.TxtF5,
-                                 &FrmQSO.TxtF6, &FrmQSO.TxtF7})
+    for (screen::TextBox* box :
+         {&FrmQSO.TxtF1, &FrmQSO.TxtF2, &FrmQSO.TxtF3, &FrmQSO.TxtF4, &FrmQSO.TxtF5, &FrmQSO.TxtF6, &FrmQSO.TxtF7})
         box->KeyPress = screen::typeCapital;
     for (screen::TextBox* box : {&FrmQSO.txtPauseCW, &FrmQSO.TxtPauseSSB, &FrmQSO.TxtPauseFm})
         box->KeyPress = keyer::pauseField_KeyPress;
@@ -200,9 +205,9 @@ void wireViews()
     FrmAnzeigen.OpB1296a.Click = review::OpB1296a_Click;
     FrmAnzeigen.OpB1296b.Click = review::OpB1296b_Click;
     FrmAnzeigen.OpBQRALoc.Click = review::OpBQRALoc_Click;
-    for (screen::Grid* grid : {&FrmAnzeigen.DBGrid1, &FrmAnzeigen.DBGrid2, &FrmAnzeigen.DBGrid3, &FrmAnzeigen.DBGrid4,
-                               &FrmAnzeigen.DBGrid5, &FrmAnzeigen.DBGrid6, &FrmAnzeigen.DBGrid7, &FrmAnzeigen.DBGrid8,
-                               &FrmAnzeigen.DBGrid9})
+    for (screen::Grid* grid :
+         {&FrmAnzeigen.DBGrid1, &FrmAnzeigen.DBGrid2, &FrmAnzeigen.DBGrid3, &FrmAnzeigen.DBGrid4, &FrmAnzeigen.DBGrid5,
+          &FrmAnzeigen.DBGrid6, &FrmAnzeigen.DBGrid7, &FrmAnzeigen.DBGrid8, &FrmAnzeigen.DBGrid9})
         grid->RowTouched = review::rowTouched;
 }
 
@@ -219,10 +224,77 @@ void wireCorrection()
     FrmAnzeigen.OpbLGHz.Click = review::OpbLGHz_Click;
 }
 
+void wireEdi()
+{
+    FrmAnzeigen.mnuFormEDI.Click = review::mnuFormEDI_Click;
+    FrmAnzeigen.OpB144Edi.Click = review::OpB144Edi_Click;
+    FrmAnzeigen.OpB432Edi.Click = review::OpB432Edi_Click;
+    FrmAnzeigen.OpB1296Edi.Click = review::OpB1296Edi_Click;
+    FrmAnzeigen.OpBGHzEdi.Click = review::OpBGHzEdi_Click;
+    FrmAnzeigen.CmdNextPage.Click = review::CmdNextPage_Click;
+    FrmAnzeigen.CmdRetur.Click = review::CmdRetur_Click;
+}
+
+void wireArchive()
+{
+    FrmAnzeigen.MnuArhiva.Click = review::MnuArhiva_Click;
+    FrmAnzeigen.TxtNameDat.KeyPress = review::TxtNameDat_KeyPress;
+    FrmAnzeigen.DrvList.Click = review::DrvList_Click;
+    FrmAnzeigen.DirList.Click = review::DirList_Click;
+    FrmAnzeigen.FilList.Click = review::FilList_Click;
+    FrmAnzeigen.CmdMem.Click = review::CmdMem_Click;
+    FrmAnzeigen.CmdArhivADI.Click = review::CmdArhivADI_Click;
+    FrmAnzeigen.CmdSterg.Click = review::CmdSterg_Click;
+}
+
+void wireStationData()
+{
+    for (screen::TextBox* box :
+         {&FrmAnzeigen.TxtSection, &FrmAnzeigen.TxtOp, &FrmAnzeigen.TxtNo, &FrmAnzeigen.TxtQTH, &FrmAnzeigen.TxtAds,
+          &FrmAnzeigen.TxtTx, &FrmAnzeigen.TxtRx, &FrmAnzeigen.TxtAnt, &FrmAnzeigen.TxtAnt2, &FrmAnzeigen.TxtAnt3,
+          &FrmAnzeigen.TxtAnt4, &FrmAnzeigen.TxtClub}) {
+        box->KeyPress = screen::typeCapital;
+        box->KeyDown = review::stationBox_KeyDown;
+    }
+    FrmAnzeigen.TxtClub.KeyDown = review::TxtClub_KeyDown;
+}
+
+void wireTextFiles()
+{
+    FrmAnzeigen.mnuFormTXT.Click = review::mnuFormTXT_Click;
+    FrmAnzeigen.MnuASCIIDATEI.Click = review::MnuASCIIDATEI_Click;
+    FrmAnzeigen.OpB0144.Click = review::OpB0144_Click;
+    FrmAnzeigen.Opb0432.Click = review::Opb0432_Click;
+    FrmAnzeigen.OpB01296.Click = review::OpB01296_Click;
+    FrmAnzeigen.OpBDsk144.Click = review::OpBDsk144_Click;
+    FrmAnzeigen.OpBDsk432.Click = review::OpBDsk432_Click;
+    FrmAnzeigen.OpBDsk1296.Click = review::OpBDsk1296_Click;
+    FrmAnzeigen.CmdGata.Click = review::CmdGata_Click;
+    wireStationData();
+}
+
+void wirePrinting()
+{
+    FrmAnzeigen.mnuLOGDrucken.Click = review::mnuLOGDrucken_Click;
+    FrmAnzeigen.OpBD144a.Click = review::OpBD144a_Click;
+    FrmAnzeigen.OpBD144b.Click = review::OpBD144b_Click;
+    FrmAnzeigen.OpBD432a.Click = review::OpBD432a_Click;
+    FrmAnzeigen.OpBD432b.Click = review::OpBD432b_Click;
+    FrmAnzeigen.OpBD1296a.Click = review::OpBD1296a_Click;
+    FrmAnzeigen.OpBD1296b.Click = review::OpBD1296b_Click;
+    FrmAnzeigen.OpBDSumm144.Click = review::OpBDSumm144_Click;
+    FrmAnzeigen.OpBDSumm432.Click = review::OpBDSumm432_Click;
+    FrmAnzeigen.OpbDSumm1296.Click = review::OpbDSumm1296_Click;
+}
+
 void wireFrmAnzeigen()
 {
+    wirePrinting();
+    wireEdi();
+    wireArchive();
     wireViews();
     wireCorrection();
+    wireTextFiles();
     FrmAnzeigen.mnuBeenden.Click = runstate::review::mnuBeenden_Click;
     FrmAnzeigen.mnuAnfang.Click = runstate::review::mnuAnfang_Click;
     FrmAnzeigen.mnuVizLog.Click = runstate::review::mnuVizLog_Click;

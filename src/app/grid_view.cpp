@@ -43,9 +43,25 @@ std::vector<storage::Row> rowsAroundCurrent(const storage::RecordSet& set, std::
     return rows;
 }
 
-bool contains(const std::vector<storage::Row>& rows, std::int64_t key)
+std::vector<storage::Row>::iterator findRow(std::vector<storage::Row>& rows, std::int64_t key)
 {
-    return std::any_of(rows.begin(), rows.end(), [&](const storage::Row& row) { return row.key == key; });
+    return std::find_if(rows.begin(), rows.end(), [&](const storage::Row& row) { return row.key == key; });
+}
+
+/// The rows that were in view, moved so that the current one is among them. A step out of the top of the window moves
+/// it up no farther than that step.
+std::vector<storage::Row> movedToCurrent(const storage::RecordSet& set, std::vector<storage::Row> rows,
+                                         std::size_t capacity)
+{
+    const std::int64_t current = set.currentKey().value_or(0);
+    if (rows.empty() || current == 0) return rowsAroundCurrent(set, capacity);
+    if (findRow(rows, current) != rows.end()) return rows;
+    std::vector<storage::Row> above = set.rowsBefore(rows.front(), capacity);
+    const auto found = findRow(above, current);
+    if (found == above.end()) return rowsAroundCurrent(set, capacity);
+    rows.insert(rows.begin(), std::make_move_iterator(found), std::make_move_iterator(above.end()));
+    rows.resize(std::min(rows.size(), capacity));
+    return rows;
 }
 
 std::vector<storage::Row> scrolled(const storage::RecordSet& set, std::vector<storage::Row> rows, long by,
@@ -67,14 +83,39 @@ std::vector<storage::Row> scrolled(const storage::RecordSet& set, std::vector<st
     return rows;
 }
 
-std::shared_ptr<const GridRows> inView(const storage::RecordSet& set, std::vector<storage::Row> rows)
+/// The share of the set in front of the last window, where the way of the thumb ends.
+double lastShare(const storage::RecordSet& set, std::size_t capacity)
+{
+    const std::vector<storage::Row> last = set.lastRows(capacity);
+    return last.empty() ? 0 : set.shareBefore(last.front());
+}
+
+std::vector<storage::Row> rowsAtPlace(const storage::RecordSet& set, double place, std::size_t capacity)
+{
+    if (place <= 0) return set.firstRows(capacity);
+    if (place >= 1) return set.lastRows(capacity);
+    std::vector<storage::Row> rows = set.rowsAtShare(place * lastShare(set, capacity), capacity);
+    return rows.size() < capacity ? set.lastRows(capacity) : rows;
+}
+
+/// Only between the ends it has to be found out.
+double placeOf(const storage::RecordSet& set, const GridRows& view, std::size_t capacity)
+{
+    if (!view.moreAbove) return 0;
+    if (!view.moreBelow) return 1;
+    const double last = lastShare(set, capacity);
+    return last > 0 ? std::min(1.0, set.shareBefore(view.rows.front()) / last) : 0;
+}
+
+std::shared_ptr<const GridRows> inView(const storage::RecordSet& set, std::vector<storage::Row> rows,
+                                       std::size_t capacity)
 {
     auto view = std::make_shared<GridRows>();
-    if (!rows.empty()) {
-        view->moreAbove = !set.rowsBefore(rows.front(), 1).empty();
-        view->moreBelow = !set.rowsAfter(rows.back(), 1).empty();
-    }
     view->rows = std::move(rows);
+    if (view->rows.empty()) return view;
+    view->moreAbove = !set.rowsBefore(view->rows.front(), 1).empty();
+    view->moreBelow = !set.rowsAfter(view->rows.back(), 1).empty();
+    view->place = placeOf(set, *view, capacity);
     return view;
 }
 
@@ -105,9 +146,9 @@ GridViews::View& GridViews::fresh(const screen::Grid& grid)
     base::quietly<base::noCurrentRecord, base::rowGone>([&] {
         if (!set.isOpen()) return;
         picture->titles = set.columnNames();
-        if (view.generation != generation || !contains(view.rows, currentKey))
-            view.rows = rowsAroundCurrent(set, view.capacity);
-        picture->rows = inView(set, view.rows);
+        view.rows = view.generation == generation ? movedToCurrent(set, std::move(view.rows), view.capacity)
+                                                  : rowsAroundCurrent(set, view.capacity);
+        picture->rows = inView(set, view.rows, view.capacity);
     });
     if (!picture->rows) picture->rows = std::make_shared<GridRows>();
     view.generation = generation;
@@ -116,7 +157,9 @@ GridViews::View& GridViews::fresh(const screen::Grid& grid)
     return view;
 }
 
-void GridViews::scroll(const screen::Grid& grid, long rows, std::size_t capacity)
+/// `move` changes the rows of the view.
+template <typename Move>
+void GridViews::moveView(const screen::Grid& grid, std::size_t capacity, Move&& move)
 {
     View& view = fresh(grid);
     const storage::RecordSet& set = grid.data->Recordset;
@@ -126,10 +169,29 @@ void GridViews::scroll(const screen::Grid& grid, long rows, std::size_t capacity
         capacity = std::max<std::size_t>(1, capacity);
         if (capacity != view.capacity) view.rows = rowsAroundCurrent(set, capacity);
         view.capacity = capacity;
-        if (rows != 0) view.rows = scrolled(set, std::move(view.rows), rows, capacity);
-        picture->rows = inView(set, view.rows);
+        std::forward<Move>(move)(set, view);
+        picture->rows = inView(set, view.rows, capacity);
     });
     view.picture = picture;
+}
+
+void GridViews::scroll(const screen::Grid& grid, long rows, std::size_t capacity)
+{
+    moveView(grid, capacity, [rows](const storage::RecordSet& set, View& view) {
+        if (rows != 0) view.rows = scrolled(set, std::move(view.rows), rows, view.capacity);
+    });
+}
+
+void GridViews::drag(const screen::Grid& grid, double place, std::size_t capacity)
+{
+    moveView(grid, capacity, [place](const storage::RecordSet& set, View& view) {
+        view.rows = rowsAtPlace(set, place, view.capacity);
+    });
+}
+
+long GridViews::pageOf(const screen::Grid& grid)
+{
+    return std::max(1L, static_cast<long>(fresh(grid).capacity) - 1);
 }
 
 }  // namespace app

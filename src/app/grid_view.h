@@ -18,6 +18,12 @@ class GridViews {
     /// Scrolls by `rows` (down is positive) in a window that has room for `capacity` rows.
     void scroll(const screen::Grid& grid, long rows, std::size_t capacity);
 
+    /// Brings the rows at a place of the set into view, 0 for the first rows and 1 for the last.
+    void drag(const screen::Grid& grid, double place, std::size_t capacity);
+
+    /// Rows by which a page of the grid moves on: one of the page before stays in view.
+    long pageOf(const screen::Grid& grid);
+
     /// Forgets everything: a new program run.
     void clear() { views_.clear(); }
 
@@ -31,6 +37,8 @@ class GridViews {
     };
 
     View& fresh(const screen::Grid& grid);
+    template <typename Move>
+    void moveView(const screen::Grid& grid, std::size_t capacity, Move&& move);
 
     std::map<const screen::Grid*, View> views_;
 };

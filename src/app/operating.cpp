@@ -1,6 +1,7 @@
 #include "app/operating.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <vector>
 
@@ -36,16 +37,48 @@ screen::Grid* gridInView()
     return nullptr;
 }
 
-void moveInGrid(screen::Grid& grid, bool up)
+/// Goes on by some rows, at most to the end.
+void moveInGrid(screen::Grid& grid, bool up, long count)
 {
     storage::RecordSet& rows = grid.data->Recordset;
-    if (!rows.isOpen() || !rows.currentKey()) return;
-    const std::int64_t stood = *rows.currentKey();
-    if (up)
-        rows.MovePrevious();
-    else
-        rows.MoveNext();
-    if (!rows.currentKey()) rows.moveTo(stood);
+    if (!rows.isOpen()) return;
+    for (; count > 0 && rows.currentKey(); --count) {
+        const std::int64_t stood = *rows.currentKey();
+        if (up)
+            rows.MovePrevious();
+        else
+            rows.MoveNext();
+        if (!rows.currentKey()) return rows.moveTo(stood);
+    }
+}
+
+void actOnGrid(screen::Grid& grid, int code, GridViews& gridViews)
+{
+    switch (code) {
+        case platform::keyUp:
+        case platform::keyDown:
+            return moveInGrid(grid, code == platform::keyUp, 1);
+        case platform::keyPageUp:
+        case platform::keyPageDown:
+            return moveInGrid(grid, code == platform::keyPageUp, gridViews.pageOf(grid));
+        case platform::keyHome:
+            return grid.data->Recordset.MoveFirst();
+        case platform::keyEnd:
+            return grid.data->Recordset.MoveLast();
+        default:
+            if (grid.RowTouched != nullptr) grid.RowTouched();
+    }
+}
+
+bool leadsToNext(const Key& key)
+{
+    return key.code == platform::keyUp || key.code == platform::keyDown;
+}
+
+bool leadsFar(const Key& key)
+{
+    constexpr std::array far = {platform::keyPageUp, platform::keyPageDown, platform::keyHome, platform::keyEnd};
+    return std::find(far.begin(), far.end(), key.code) != far.end();
 }
 
 }  // namespace
@@ -98,16 +131,12 @@ void operate(Control& control, const Key& key)
     }
 }
 
-bool actsOnGrid(const Key& key)
+bool actsOnGrid(const Key& key, GridViews& gridViews)
 {
-    const bool arrow = key.code == platform::keyUp || key.code == platform::keyDown;
-    if (!key.ctrl || (!arrow && key.code != platform::keyDelete)) return false;
+    if (!key.ctrl || !(leadsFar(key) || leadsToNext(key) || key.code == platform::keyDelete)) return false;
     screen::Grid* grid = gridInView();
-    if (grid == nullptr) return true;
-    if (arrow)
-        run([&] { moveInGrid(*grid, key.code == platform::keyUp); });
-    else if (grid->RowTouched != nullptr)
-        run(grid->RowTouched);
+    if (leadsFar(key) && (grid == nullptr || !grid->farKeys)) return false;
+    if (grid != nullptr) run([&] { actOnGrid(*grid, key.code, gridViews); });
     return true;
 }
 

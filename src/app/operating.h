@@ -4,6 +4,7 @@
 
 #include <utility>
 
+#include "app/grid_view.h"
 #include "base/runtime_error.h"
 #include "platform/keys.h"
 #include "screen/form.h"
@@ -26,8 +27,9 @@ screen::Control* nextStop(const screen::Form& form, const screen::Control* from,
 /// What a key does to a button, an option, a check box or a list that has the focus.
 void operate(screen::Control& control, const platform::Key& key);
 
-/// Ctrl with an arrow or Delete acts on the rows in view, wherever the focus is. False for other keys.
-bool actsOnGrid(const platform::Key& key);
+/// Ctrl with an arrow or Delete acts on the rows in view, wherever the focus is, and with Page Up, Page Down, Home or
+/// End where the fields of the form have no use for these. False for other keys.
+bool actsOnGrid(const platform::Key& key, GridViews& gridViews);
 
 /// Opens the help at the number of the form on the screen.
 void openHelp();

@@ -16,6 +16,7 @@ struct GridRows {
     std::vector<storage::Row> rows;
     bool moreAbove = false;
     bool moreBelow = false;
+    double place = 0;  ///< of these rows in the whole set, 0 the first and 1 the last; about, since nobody counts
 };
 
 struct GridPicture {

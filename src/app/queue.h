@@ -69,6 +69,13 @@ struct GridScrolled {
     std::size_t capacity = 0;
 };
 
+/// The pointer dragged the thumb of a grid to a place, 0 for the first rows and 1 for the last.
+struct GridDragged {
+    screen::Control* control = nullptr;
+    double place = 0;
+    std::size_t capacity = 0;
+};
+
 /// The close button, or a signal to end.
 struct CloseAsked {};
 
@@ -82,7 +89,7 @@ struct PictureAsked {};
 
 using QueueEntry =
     std::variant<KeyWentDown, KeyWentUp, TextPasted, ControlClicked, ControlDoubleClicked, FocusAsked, CaretPlaced,
-                 ListItemPicked, RowPicked, GridScrolled, CloseAsked, BoxAnswered, PictureAsked>;
+                 ListItemPicked, RowPicked, GridScrolled, GridDragged, CloseAsked, BoxAnswered, PictureAsked>;
 
 /// Where the program thread takes its entries from.
 class EntrySource {

@@ -15,10 +15,17 @@ bool isContinuation(unsigned char byte)
     return (byte & 0xC0U) == 0x80U;
 }
 
+/// Not the same byte in every code page.
+bool isSpecial(char byte)
+{
+    return static_cast<unsigned char>(byte) >= 0x80;
+}
+
 /// Bytes of the sequence that begins at `text[0]`: 1 to 4. Broken sequences are taken one byte at a time.
 std::size_t sequenceLength(std::string_view text)
 {
     const auto first = static_cast<unsigned char>(text[0]);
+    if (!isSpecial(text[0])) return 1;
     std::size_t count = 1;
     if (first >= 0xC2 && first <= 0xDF) count = 2;
     if (first >= 0xE0 && first <= 0xEF) count = 3;
@@ -181,7 +188,9 @@ std::string padRight(std::string_view text, std::size_t count)
 {
     const std::size_t present = length(text);
     if (present >= count) return left(text, count);
-    return std::string(text) + blanks(count - present);
+    std::string padded;
+    padded.reserve(text.size() + count - present);
+    return padded.append(text).append(count - present, ' ');
 }
 
 std::string blanks(std::size_t count)
@@ -233,8 +242,18 @@ std::string toWindows1250(std::string_view text)
 {
     std::string bytes;
     bytes.reserve(text.size());
-    for (const char32_t character : toCharacters(text))
-        bytes.push_back(toWindows1250Byte(character));
+    while (!text.empty()) {
+        // Most texts are plain from end to end, and go over as they are.
+        std::size_t plain = 0;
+        while (plain < text.size() && !isSpecial(text[plain]))
+            ++plain;
+        bytes.append(text.substr(0, plain));
+        text.remove_prefix(plain);
+        if (text.empty()) break;
+        const std::size_t length = sequenceLength(text);
+        bytes.push_back(toWindows1250Byte(decode(text.substr(0, length))));
+        text.remove_prefix(length);
+    }
     return bytes;
 }
 

@@ -8,10 +8,12 @@ DesktopMachine::DesktopMachine(const CommandLine& commandLine, EntryQueue& queue
       messageBoxes_(queue, std::move(publish)),
       sound_(notices_, queue.stopToken()),
       serialPort_(commandLine.programFolder),
+      printer_(commandLine.programFolder, notices_),
+      volumes_(commandLine.programFolder),
       help_(commandLine.programFolder, notices_),
       installation_(commandLine),
-      machine_{messageBoxes_, notices_,    clock_, polledKeys_, clipboard_,
-               sound_,        serialPort_, help_,  screenArea_, installation_}
+      machine_{messageBoxes_, notices_, clock_,   polledKeys_, clipboard_,  sound_,
+               serialPort_,   printer_, volumes_, help_,       screenArea_, installation_}
 {
     screenArea_.measure();
 }

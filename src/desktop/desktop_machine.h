@@ -8,9 +8,11 @@
 #include "desktop/machine_clock.h"
 #include "desktop/message_boxes.h"
 #include "desktop/notices.h"
+#include "desktop/paper_printer.h"
 #include "desktop/screen_area.h"
 #include "desktop/serial_port.h"
 #include "desktop/sound_devices.h"
+#include "desktop/volumes.h"
 #include "platform/machine.h"
 
 namespace desktop {
@@ -33,6 +35,8 @@ class DesktopMachine {
     ClipboardMirror clipboard_;
     SoundDevices sound_;
     SerialLines serialPort_;
+    PaperPrinter printer_;
+    MountedVolumes volumes_;
     HelpFile help_;
     ScreenArea screenArea_;
     InstalledProgram installation_;

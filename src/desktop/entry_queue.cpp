@@ -13,13 +13,24 @@ bool isAnswer(const app::QueueEntry& entry)
     return std::holds_alternative<app::BoxAnswered>(entry);
 }
 
+/// A thumb that was dragged on before the program looked where it was: only its newest place counts.
+bool isSameDrag(const app::QueueEntry& before, const app::QueueEntry& now)
+{
+    const auto* const first = std::get_if<app::GridDragged>(&before);
+    const auto* const second = std::get_if<app::GridDragged>(&now);
+    return first != nullptr && second != nullptr && first->control == second->control;
+}
+
 }  // namespace
 
 void EntryQueue::post(app::QueueEntry entry)
 {
     {
         const std::lock_guard lock(mutex_);
-        entries_.push_back(std::move(entry));
+        if (!entries_.empty() && isSameDrag(entries_.back(), entry))
+            entries_.back() = std::move(entry);
+        else
+            entries_.push_back(std::move(entry));
     }
     changed_.notify_one();
 }

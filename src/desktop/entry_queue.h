@@ -14,7 +14,7 @@ namespace desktop {
 
 class EntryQueue final : public app::EntrySource {
  public:
-    /// Appends an entry. From any thread.
+    /// Appends an entry; a step of a drag takes the place of the one before it that still waits. From any thread.
     void post(app::QueueEntry entry);
 
     /// The next entry if one waits. Throws ProgramEnd once the queue is stopped: whatever the program is in the middle

@@ -8,6 +8,7 @@ namespace desktop {
 namespace {
 
 constexpr double designHeight = 600;
+constexpr double designWidth = 800;
 constexpr double designPixelsPerPoint = 20.0 / 15;  // 20 twips a point, 15 a pixel
 
 }  // namespace
@@ -15,7 +16,8 @@ constexpr double designPixelsPerPoint = 20.0 / 15;  // 20 twips a point, 15 a pi
 FormScale::FormScale(double width, double height, QSize client)
     : pixelsPerTwipX_(client.width() / width),
       pixelsPerTwipY_(client.height() / height),
-      growth_(client.height() / designHeight)
+      growth_(client.height() / designHeight),
+      growthX_(client.width() / designWidth)
 {
 }
 

@@ -26,6 +26,9 @@ class FormScale {
     /// The twips under a point of the window.
     QPointF twips(QPointF pixels) const { return {pixels.x() / pixelsPerTwipX_, pixels.y() / pixelsPerTwipY_}; }
 
+    /// Pixels for a width on a screen of 12000 twips.
+    double designX(double twips) const { return twips * growthX_ / 15; }
+
     /// Pixels of a font of `points`, which are those of a screen 600 pixels high.
     int fontPixels(double points) const;
 
@@ -35,7 +38,8 @@ class FormScale {
  private:
     double pixelsPerTwipX_ = 1.0 / 15;
     double pixelsPerTwipY_ = 1.0 / 15;
-    double growth_ = 1;  ///< height of the window in screens of 600 pixels
+    double growth_ = 1;   ///< height of the window in screens of 600 pixels
+    double growthX_ = 1;  ///< its width in screens of 800 pixels
 };
 
 }  // namespace desktop

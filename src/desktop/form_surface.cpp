@@ -66,10 +66,26 @@ TextBoxLayout FormSurface::textBox(const app::ControlPicture& box)
     return layout;
 }
 
+GridLayout FormSurface::grid(const app::ControlPicture& grid) const
+{
+    GridLayout layout = layOutGrid(grid, scale_);
+    if (heldThumb_.control == grid.control) layout.scrollBar.holdThumb(heldThumb_.place);
+    return layout;
+}
+
 ListLayout FormSurface::list(const app::ControlPicture& list) const
 {
     const auto top = listTops_.find(list.control);
-    return layOutList(list, scale_, top == listTops_.end() ? 0 : top->second);
+    ListLayout layout = layOutList(list, scale_, top == listTops_.end() ? 0 : top->second);
+    if (heldThumb_.control == list.control) layout.scrollBar.holdThumb(heldThumb_.place);
+    return layout;
+}
+
+ScrollBar FormSurface::scrollBarOf(const app::ControlPicture& control) const
+{
+    if (control.kind == Kind::grid) return grid(control).scrollBar;
+    if (control.kind == Kind::listBox) return list(control).scrollBar;
+    return {};
 }
 
 bool FormSurface::scrollList(const app::ControlPicture& list, long items)

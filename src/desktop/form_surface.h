@@ -34,11 +34,18 @@ class FormSurface {
     const app::ControlPicture* focused() const;
 
     TextBoxLayout textBox(const app::ControlPicture& box);
-    GridLayout grid(const app::ControlPicture& grid) const { return layOutGrid(grid, scale_); }
+    GridLayout grid(const app::ControlPicture& grid) const;
     ListLayout list(const app::ControlPicture& list) const;
 
     /// Scrolls a list by some items. False when it stands at that end already.
     bool scrollList(const app::ControlPicture& list, long items);
+
+    /// The scroll bar of a grid or list, an empty one for other controls.
+    ScrollBar scrollBarOf(const app::ControlPicture& control) const;
+
+    /// Draws the thumb of a grid or list where the pointer holds it, whatever rows are in view there, until it lets go
+    /// with nullptr.
+    void holdThumb(const screen::Control* control, double place) { heldThumb_ = {control, place}; }
 
     /// The control that the pointer holds down, nullptr for none.
     void setPressed(const screen::Control* control) { pressed_ = control; }
@@ -62,6 +69,12 @@ class FormSurface {
     bool caretShown_ = true;
     std::map<const screen::Control*, double> textOffsets_;
     std::map<const screen::Control*, int> listTops_;
+
+    struct HeldThumb {
+        const screen::Control* control = nullptr;
+        double place = 0;
+    };
+    HeldThumb heldThumb_;
 };
 
 }  // namespace desktop

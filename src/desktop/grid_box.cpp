@@ -133,7 +133,8 @@ GridLayout layOutGrid(const app::ControlPicture& grid, const FormScale& scale)
     layout.body.setWidth(std::max(1, inside.width() - barWidth));
     layout.capacity = static_cast<std::size_t>(std::max(1, layout.body.height() / layout.rowHeight));
     const QRect bar(layout.body.right() + 1, layout.body.top(), barWidth, layout.body.height());
-    layout.scrollBar = ScrollBar(bar, grid.grid->rows->moreAbove, grid.grid->rows->moreBelow);
+    const app::GridRows& rows = *grid.grid->rows;
+    layout.scrollBar = ScrollBar(bar, {rows.moreAbove, rows.moreBelow, rows.place});
     return layout;
 }
 

@@ -31,6 +31,16 @@ double widestText(const app::GridPicture& grid, std::size_t column, const QFontM
     return widest;
 }
 
+/// Widths of the form do not grow with the window, but the texts do.
+void growWithWindow(std::vector<double>& widths, double designWidth, double room)
+{
+    const double width = sum(widths);
+    if (width <= 0) return;
+    const double growth = std::max(1.0, std::min(room, designWidth) / width);
+    for (double& each : widths)
+        each *= growth;
+}
+
 }  // namespace
 
 std::vector<double> sharedWidths(std::vector<double> widths, const std::vector<double>& needs, double room)
@@ -62,8 +72,12 @@ GridColumns layOutColumns(const app::ControlPicture& grid, const FormScale& scal
     const std::vector<std::size_t> seen = columnsInSight(*grid.grid);
     std::vector<double> widths;
     widths.reserve(seen.size());
-    for (std::size_t column : seen)
+    double designWidth = 0;
+    for (std::size_t column : seen) {
         widths.push_back(scale.x(grid.grid->columnWidths[column]));
+        designWidth += scale.designX(grid.grid->columnWidths[column]);
+    }
+    growWithWindow(widths, designWidth, room);
 
     GridColumns layout;
     layout.columns.reserve(seen.size());

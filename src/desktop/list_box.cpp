@@ -22,12 +22,13 @@ ListLayout layOutList(const app::ControlPicture& list, const FormScale& scale, i
     const int wanted = scale.fontPixels(list.fontPoints);
     layout.rowHeight = wanted + wanted / 3 + 1;
     layout.capacity = std::max(1, layout.body.height() / layout.rowHeight);
-    const int lastTop = std::max(0, layout.items - layout.capacity);
+    const int lastTop = layout.lastTop();
     layout.top = std::clamp(top, 0, lastTop);
     if (lastTop == 0) return layout;
     const int barWidth = ScrollBar::widthAt(scale);
     const QRect bar(layout.body.right() + 1 - barWidth, layout.body.top(), barWidth, layout.body.height());
-    layout.scrollBar = ScrollBar(bar, layout.top > 0, layout.top < lastTop);
+    layout.scrollBar =
+        ScrollBar(bar, {layout.top > 0, layout.top < lastTop, static_cast<double>(layout.top) / lastTop});
     layout.body.setRight(bar.left() - 1);
     return layout;
 }

@@ -1,6 +1,8 @@
 // A list in the window. Which item stands at its top is the window's own matter.
 #pragma once
 
+#include <algorithm>
+
 #include "desktop/scroll_bar.h"
 
 namespace desktop {
@@ -13,6 +15,9 @@ struct ListLayout {
     int capacity = 1;  ///< items that have room
     int items = 0;
     ScrollBar scrollBar;
+
+    /// The item at the top when the last one is at the foot.
+    int lastTop() const { return std::max(0, items - capacity); }
 
     /// Item under a point, -1 where there is none.
     int itemAt(QPoint point) const;

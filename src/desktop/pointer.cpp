@@ -1,5 +1,7 @@
 #include "desktop/pointer.h"
 
+#include <cmath>
+
 namespace desktop {
 
 namespace {
@@ -71,6 +73,7 @@ void Pointer::move(QPoint at)
     const app::ControlPicture* control = surface_.find(held_);
     if (control == nullptr) return;
     if (control->kind == Kind::textBox) return dragSelection(*control, at);
+    if (scrolling_ == ScrollPart::thumb) return dragThumb(*control, at);
     if (!hasPressedLook(control->kind)) return;
     setPressedLook(surface_.scale().pixels(control->place).contains(at) ? control : nullptr);
 }
@@ -79,6 +82,7 @@ void Pointer::release(QPoint at)
 {
     scrollTimer_.stop();
     setPressedLook(nullptr);
+    if (scrolling_ == ScrollPart::thumb) letThumbGo();
     const bool scrolled = std::exchange(scrolling_, ScrollPart::none) != ScrollPart::none;
     const app::ControlPicture* control = surface_.find(std::exchange(held_, nullptr));
     if (control == nullptr || scrolled || !surface_.scale().pixels(control->place).contains(at)) return;
@@ -111,15 +115,18 @@ void Pointer::pickRow(const app::ControlPicture& grid, QPoint at, bool doubleCli
 
 bool Pointer::pressScrollBar(const app::ControlPicture& control, QPoint at)
 {
-    ScrollBar bar;
-    if (control.kind == Kind::grid) bar = surface_.grid(control).scrollBar;
-    if (control.kind == Kind::listBox) bar = surface_.list(control).scrollBar;
+    const ScrollBar bar = surface_.scrollBarOf(control);
     if (!bar.place().contains(at)) return false;
     heldAt_ = at;
     held_ = control.control;
     scrolling_ = bar.partAt(at);
     if (scrolling_ == ScrollPart::none) {
         held_ = nullptr;
+        return true;
+    }
+    if (scrolling_ == ScrollPart::thumb) {
+        thumbGrip_ = at.y() - bar.thumb().top();
+        thumbPlace_ = bar.placeOfThumb(bar.thumb().top());
         return true;
     }
     scrollOn();
@@ -134,8 +141,7 @@ void Pointer::scrollOn()
     const app::ControlPicture* control = surface_.find(held_);
     if (control == nullptr) return scrollTimer_.stop();
     const bool grid = control->kind == Kind::grid;
-    const ScrollBar bar = grid ? surface_.grid(*control).scrollBar : surface_.list(*control).scrollBar;
-    if (bar.partAt(heldAt_) != scrolling_) return scrollTimer_.stop();
+    if (surface_.scrollBarOf(*control).partAt(heldAt_) != scrolling_) return scrollTimer_.stop();
     const std::size_t capacity =
         grid ? surface_.grid(*control).capacity : static_cast<std::size_t>(surface_.list(*control).capacity);
     scroll(*control, ScrollBar::rowsOf(scrolling_, capacity));
@@ -148,6 +154,30 @@ void Pointer::scroll(const app::ControlPicture& control, long rows)
     } else if (surface_.scrollList(control, rows)) {
         repaint_(surface_.scale().pixels(control.place));
     }
+}
+
+/// The rows follow the thumb.
+void Pointer::dragThumb(const app::ControlPicture& control, QPoint at)
+{
+    const double place = surface_.scrollBarOf(control).placeOfThumb(at.y() - thumbGrip_);
+    if (place == thumbPlace_) return;
+    thumbPlace_ = place;
+    surface_.holdThumb(control.control, place);
+    if (control.kind == Kind::grid) {
+        post_(app::GridDragged{control.control, place, surface_.grid(control).capacity});
+    } else {
+        const ListLayout list = surface_.list(control);
+        surface_.scrollList(control, std::lround(place * list.lastTop()) - list.top);
+    }
+    repaint_(surface_.scale().pixels(control.place));
+}
+
+/// It goes to where the rows in view have their place.
+void Pointer::letThumbGo()
+{
+    surface_.holdThumb(nullptr, 0);
+    const app::ControlPicture* control = surface_.find(held_);
+    if (control != nullptr) repaint_(surface_.scale().pixels(control->place));
 }
 
 void Pointer::turnWheel(QPoint at, int eighths)

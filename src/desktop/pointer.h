@@ -36,6 +36,8 @@ class Pointer final : public QObject {
     void dragSelection(const app::ControlPicture& box, QPoint at);
     bool pressScrollBar(const app::ControlPicture& control, QPoint at);
     void scroll(const app::ControlPicture& control, long rows);
+    void dragThumb(const app::ControlPicture& control, QPoint at);
+    void letThumbGo();
     void scrollOn();
     void pickRow(const app::ControlPicture& grid, QPoint at, bool doubleClick);
     void setPressedLook(const app::ControlPicture* control);
@@ -48,6 +50,8 @@ class Pointer final : public QObject {
     bool dragged_ = false;
     std::size_t caret_ = 0;  ///< where the drag has put it last
     ScrollPart scrolling_ = ScrollPart::none;
+    int thumbGrip_ = 0;  ///< pixels from the top of the thumb to where the pointer holds it
+    double thumbPlace_ = 0;
     QTimer scrollTimer_;
     int wheel_ = 0;  ///< eighths of degrees that have not made a row yet
 };

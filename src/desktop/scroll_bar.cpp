@@ -2,6 +2,7 @@
 
 #include <QPolygonF>
 #include <algorithm>
+#include <cmath>
 
 namespace desktop {
 
@@ -22,8 +23,7 @@ void paintArrow(QPainter& painter, const QRectF& box, bool up)
 
 }  // namespace
 
-ScrollBar::ScrollBar(const QRect& place, bool moreAbove, bool moreBelow)
-    : place_(place), moreAbove_(moreAbove), moreBelow_(moreBelow)
+ScrollBar::ScrollBar(const QRect& place, const ScrollPlace& rows) : place_(place), rows_(rows)
 {
 }
 
@@ -45,24 +45,35 @@ QRect ScrollBar::trough() const
 
 QRect ScrollBar::thumb() const
 {
+    if (!rows_.moreAbove && !rows_.moreBelow) return {};
     const QRect room = trough();
-    if (!moreAbove_ && !moreBelow_) return {};
-    const int height = std::max(4, room.height() / 3);
-    int top = room.top() + (room.height() - height) / 2;
-    if (!moreAbove_) top = room.top();
-    if (!moreBelow_) top = room.bottom() + 1 - height;
-    return {room.left(), top, room.width(), height};
+    const int height = std::min(room.height(), std::max(room.width(), room.height() / 6));
+    const double way = room.height() - height;
+    return {room.left(), room.top() + static_cast<int>(std::lround(way * std::clamp(rows_.at, 0.0, 1.0))), room.width(),
+            height};
+}
+
+double ScrollBar::placeOfThumb(int top) const
+{
+    const QRect room = trough();
+    const double way = room.height() - thumb().height();
+    return way <= 0 ? 0 : std::clamp((top - room.top()) / way, 0.0, 1.0);
+}
+
+bool ScrollBar::leadsOn(ScrollPart part) const
+{
+    const bool upwards = part == ScrollPart::toFirst || part == ScrollPart::rowUp || part == ScrollPart::pageUp;
+    return upwards ? rows_.moreAbove : rows_.moreBelow;
 }
 
 ScrollPart ScrollBar::partAt(QPoint point) const
 {
     if (!place_.contains(point)) return ScrollPart::none;
-    const bool upwards = point.y() < thumb().center().y();
-    if (upwards ? !moreAbove_ : !moreBelow_) return ScrollPart::none;
-    for (ScrollPart part : buttons)
-        if (buttonOf(part).contains(point)) return part;
-    if (thumb().contains(point)) return ScrollPart::none;
-    return upwards ? ScrollPart::pageUp : ScrollPart::pageDown;
+    if (thumb().contains(point)) return ScrollPart::thumb;
+    ScrollPart part = point.y() < thumb().center().y() ? ScrollPart::pageUp : ScrollPart::pageDown;
+    for (const ScrollPart button : buttons)
+        if (buttonOf(button).contains(point)) part = button;
+    return leadsOn(part) ? part : ScrollPart::none;
 }
 
 long ScrollBar::rowsOf(ScrollPart part, std::size_t capacity)
@@ -81,6 +92,7 @@ long ScrollBar::rowsOf(ScrollPart part, std::size_t capacity)
             return 1;
         case ScrollPart::toLast:
             return windowsToTheEnd * static_cast<long>(capacity);
+        case ScrollPart::thumb:
         case ScrollPart::none:
             break;
     }
@@ -97,7 +109,7 @@ void ScrollBar::paint(Canvas& canvas) const
     for (ScrollPart part : buttons) {
         const QRectF box = buttonOf(part);
         const bool up = part == ScrollPart::toFirst || part == ScrollPart::rowUp;
-        painter.setBrush((up ? moreAbove_ : moreBelow_) ? QColor(60, 60, 60) : QColor(176, 176, 176));
+        painter.setBrush(leadsOn(part) ? QColor(60, 60, 60) : QColor(176, 176, 176));
         if (part == ScrollPart::rowUp || part == ScrollPart::rowDown) {
             paintArrow(painter, box, up);
             continue;

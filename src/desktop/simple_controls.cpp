@@ -117,20 +117,22 @@ void paintFrame(Canvas& canvas, const app::ControlPicture& frame)
     const QRect place = canvas.scale.pixels(frame.place);
     painter.fillRect(place, toolkitColour(frame.background));
     const QString caption = toolkitText(frame.text);
+    constexpr int flags = Qt::AlignCenter | Qt::TextSingleLine | Qt::TextShowMnemonic;
     const int wanted = canvas.scale.fontPixels(frame.fontPoints);
     const QRectF room(place.left() + 8, place.top(), std::max(1, place.width() - 16), wanted * 1.4);
-    const int pixels = canvas.fonts.fitting(caption, room.size(), wanted, frame.bold, Qt::TextSingleLine);
+    const int pixels = canvas.fonts.fitting(caption, room.size(), wanted, frame.bold, flags);
     const QFontMetricsF& metrics = canvas.fonts.metrics(pixels, frame.bold);
 
     const int lineTop = caption.trimmed().isEmpty() ? 0 : static_cast<int>(metrics.height() / 2);
     painter.setPen(QColor(160, 160, 160));
     painter.drawRect(place.adjusted(0, lineTop, -1, -1));
     if (caption.trimmed().isEmpty()) return;
-    const QRectF text(room.left(), room.top(), metrics.horizontalAdvance(caption) + 6, metrics.height());
+    const double width = metrics.size(flags, caption).width() + 6;
+    const QRectF text(room.left(), room.top(), width, metrics.height());
     painter.fillRect(text, toolkitColour(frame.background));
     painter.setFont(canvas.fonts.font(pixels, frame.bold));
     painter.setPen(textColourOf(frame));
-    painter.drawText(text, Qt::AlignCenter | Qt::TextSingleLine, caption);
+    painter.drawText(text, flags, caption);
 }
 
 void paintLine(Canvas& canvas, const app::ControlPicture& line)

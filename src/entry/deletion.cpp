@@ -16,6 +16,7 @@
 #include "entry/log_table.h"
 #include "platform/machine.h"
 #include "runstate/modul1.h"
+#include "runstate/question.h"
 #include "screen/frm_qso.h"
 #include "screen/grid_layout.h"
 
@@ -58,12 +59,7 @@ bool maraton()
 
 bool operatorWantsIt()
 {
-    Modul1.MsgText = "DO YOU WANT TO DELETE?";
-    Modul1.MsgTitle = "LÖSCHEN?";
-    Modul1.MsgStyle = base::toText(platform::styleYesNoQuestion);
-    const platform::Button answer = platform::msgBox(Modul1.MsgText, platform::styleYesNoQuestion, Modul1.MsgTitle);
-    Modul1.MsgResp = base::toText(answer);
-    return answer == platform::buttonYes;
+    return runstate::ask("DO YOU WANT TO DELETE?", "LÖSCHEN?") == platform::buttonYes;
 }
 
 /// The lamps tell the band. A picked microwave band becomes the GHz group: their log is one.

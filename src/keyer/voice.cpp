@@ -35,6 +35,9 @@ void GoSSB()
     go([] {
         openPort();
         play();
+        FrmQSO.MSComm1.RTSEnable = false;
+        // A function key that was pressed meanwhile finds the port in use, and is ignored. What was typed is not lost.
+        platform::serveEvents();
     });
 }
 

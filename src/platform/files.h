@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace platform {
 
@@ -18,6 +19,24 @@ void makeFolder(std::string_view designPath);
 
 /// True when there is a folder at `designPath`.
 bool folderIsThere(std::string_view designPath);
+
+/// Deletes a file. `designPath` as for resolve(). Error 53 when there is none, 75 when it may not be deleted.
+void deleteFile(std::string_view designPath);
+
+/// Names in a folder, in the order of the alphabet without regard to case.
+struct FolderContents {
+    std::vector<std::string> folders;
+    std::vector<std::string> files;
+};
+
+/// What is in a folder. `designPath` as for resolve(). Error 76 when it is not there, 75 when it may not be read.
+FolderContents readFolder(std::string_view designPath);
+
+/// The folder that a folder is in; the same one at the root of a volume. `designPath` as for resolve().
+std::string folderAbove(std::string_view designPath);
+
+/// True when a file can bear this name on every system that the program runs on. A path is no name.
+bool isFileName(std::string_view name);
 
 /// A native path as UTF-8 text.
 std::string pathText(const std::filesystem::path& path);

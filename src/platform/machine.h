@@ -4,7 +4,9 @@
 
 #include <chrono>
 #include <functional>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace platform {
 
@@ -101,6 +103,35 @@ class SerialPort {
     virtual void close() noexcept = 0;
 };
 
+/// The default printer, or what stands in for it. Text stands in columns of the average width of its font.
+///
+/// A printer that fails raises error 75 once and gives the document up: the rest of it goes nowhere, and the next one
+/// begins afresh.
+class Printer {
+ public:
+    virtual ~Printer() = default;
+    /// Begins a document, in letters that are not bold. `name` is what the queue of the printer shows, or the stand-in
+    /// calls its file. A document that was not ended is.
+    virtual void begin(const std::string& name) = 0;
+    /// The font of the items that follow.
+    virtual void setFont(const std::string& name, double points) = 0;
+    virtual void setBold(bool bold) = 0;
+    /// Prints an item at a column, from 1. One whose column is passed already goes to the next line.
+    virtual void print(int column, const std::string& text) = 0;
+    virtual void endLine() = 0;
+    virtual void endPage() = 0;
+    virtual void endDocument() = 0;
+};
+
+class Volumes {
+ public:
+    virtual ~Volumes() = default;
+    /// Folder of the first mounted removable volume, without a separator at its end; nothing when there is none.
+    virtual std::optional<std::string> driveA() const = 0;
+    /// Names of the volumes to choose from, the one of the program first.
+    virtual std::vector<std::string> names() const = 0;
+};
+
 class HelpViewer {
  public:
     virtual ~HelpViewer() = default;
@@ -137,6 +168,8 @@ struct Machine {
     Clipboard& clipboard;
     Sound& sound;
     SerialPort& serialPort;
+    Printer& printer;
+    Volumes& volumes;
     HelpViewer& help;
     Screen& screen;
     Installation& installation;

@@ -73,10 +73,9 @@ void emptyMaratonLog(base::ResumeNext& go)
 void mnuLOGL_schen_Click()
 {
     Anulat();
+    hideOtherJobs();
+    giveLogThePage();
     FrmAnzeigen.Frame2.Visible = true;
-    for (screen::Frame* frame : {&FrmAnzeigen.Frame1, &FrmAnzeigen.Frame3, &FrmAnzeigen.Frame4, &FrmAnzeigen.Frame5,
-                                 &FrmAnzeigen.Frame6, &FrmAnzeigen.Frame8})
-        frame->Visible = false;
     showEmptyingButtons();
     runstate::tell("Stergeti TOATE fisierele vechi de log ramase din alte concursuri !!", platform::iconExclamation);
 }

@@ -7,4 +7,11 @@ namespace review {
 /// are.
 void Anulat();
 
+/// Hides the frames of all jobs and the button that ends an input: a menu entry shows its own behind it. The log leaves
+/// the foot of the page free for them.
+void hideOtherJobs();
+
+/// Lets the log reach down to the foot of the page, for a job that has nothing there.
+void giveLogThePage();
+
 }  // namespace review

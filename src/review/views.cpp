@@ -68,8 +68,8 @@ void mnuLogAnzeigen_Click()
 {
     Anulat();
     FrmAnzeigen.TxtFoc.SetFocus();
-    for (screen::Frame* frame : {&FrmAnzeigen.Frame2, &FrmAnzeigen.Frame3, &FrmAnzeigen.Frame6, &FrmAnzeigen.Frame8})
-        frame->Visible = false;
+    hideOtherJobs();
+    giveLogThePage();
     FrmAnzeigen.Frame1.Visible = true;
     FrmAnzeigen.Frame4.Visible = true;
     showViewButtons();

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string>
 
+#include "platform/result_file.h"
 #include "storage/database.h"
 
 namespace runstate {
@@ -22,6 +23,7 @@ struct Modul1State {
     storage::TableDef TdefUus432b;
     storage::TableDef TdefUus1296a;
     storage::TableDef TdefUus1296b;
+    platform::ResultFile FileNo;  ///< the one file that results are written to
     std::string AppPath;  ///< folder of the program: set-up files, help file
     std::string AppDir;   ///< folder of the databases and the voice files
 

@@ -14,6 +14,7 @@
 #include "keyer/cw.h"
 #include "platform/machine.h"
 #include "runstate/modul1.h"
+#include "runstate/question.h"
 #include "runstate/setup_files.h"
 #include "screen/frm_anzeigen.h"
 #include "screen/frm_init.h"
@@ -157,12 +158,7 @@ void resume()
 
 bool reallyEnd()
 {
-    Modul1.MsgText = "VRETI INTRADEVAR SA IESITI DIN PROGRAM ?";
-    Modul1.MsgTitle = "EXIT";
-    Modul1.MsgStyle = base::toText(platform::styleYesNoQuestion);
-    const platform::Button answer = platform::msgBox(Modul1.MsgText, platform::styleYesNoQuestion, Modul1.MsgTitle);
-    Modul1.MsgResp = base::toText(answer);
-    return answer == platform::buttonYes;
+    return ask("VRETI INTRADEVAR SA IESITI DIN PROGRAM ?", "EXIT") == platform::buttonYes;
 }
 
 void openHelp(int context)

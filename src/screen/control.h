@@ -243,6 +243,7 @@ struct Grid : Control {
     DataControl* const data;
     std::array<double, mostGridColumns> columnWidths{};  ///< twips; a column of width 0 is not seen
     RowGesture gesture = RowGesture::doubleClick;
+    bool farKeys = false;  ///< Ctrl with Page Up, Page Down, Home and End moves in it; no field of the form uses these
     EventSlot RowTouched = nullptr;
 };
 

@@ -79,6 +79,7 @@ void FrmAnzeigenForm::placeGrids()
     for (Grid* grid : {&DBGrid1, &DBGrid2, &DBGrid3, &DBGrid4, &DBGrid5, &DBGrid6, &DBGrid7, &DBGrid8, &DBGrid9}) {
         put({{*grid, review_places::log}});
         grid->gesture = RowGesture::click;
+        grid->farKeys = true;
         grid->Visible = false;
     }
 }

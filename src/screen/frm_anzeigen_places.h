@@ -1,7 +1,8 @@
 // Where the jobs of the review form stand on the design screen.
 //
-// The log in view fills the left side, the frames of the jobs stand in two columns beside it, the station data and the
-// button that ends an input in two strips at the foot. Jobs that are never in view together share a place.
+// The log in view fills the left side, down to the foot of the page while it is only looked through. The frames of the
+// jobs stand in two columns beside it, the station data and the button that ends an input in two strips at the foot.
+// Jobs that are never in view together share a place.
 #pragma once
 
 #include "screen/control.h"
@@ -10,6 +11,7 @@ namespace screen::review_places {
 
 constexpr double pageTop = 120;
 constexpr double pageHeight = 6060;                              ///< down to the strips at the foot
+constexpr double wholePageHeight = 8760;                         ///< for a job that has none of these strips
 constexpr Rectangle log{120, pageTop, 6760, pageHeight};         ///< wide enough for nine columns
 constexpr Rectangle maratonLog{120, pageTop, 9000, pageHeight};  ///< and for twelve
 constexpr double jobLeft = 7000;                                 ///< first column of frames

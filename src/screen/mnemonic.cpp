@@ -15,13 +15,29 @@ bool opensMenu(const Control& entry)
                        [&](const Control* control) { return control->container == &entry; });
 }
 
-bool answersToMnemonic(const Control& control)
+bool hasLetter(const Control& control, char32_t letter)
+{
+    return control.seen() && control.enabled() && mnemonicOf(captionOf(control)) == base::upper(letter);
+}
+
+/// The menu keeps its letters, also those that only open one.
+bool standsInMenuBar(const Form& form, char32_t letter)
+{
+    const auto& controls = form.controls();
+    return std::any_of(controls.begin(), controls.end(), [&](const Control* control) {
+        return control->kind == Kind::menuEntry && control->container == nullptr && hasLetter(*control, letter);
+    });
+}
+
+bool answersToMnemonic(const Control& control, char32_t letter)
 {
     switch (control.kind) {
         case Kind::commandButton:
         case Kind::optionButton:
         case Kind::checkBox:
             return true;
+        case Kind::frame:
+            return !standsInMenuBar(control.form, letter) && firstStopIn(control) != nullptr;
         case Kind::menuEntry:
             return control.container == nullptr && !opensMenu(control);
         default:
@@ -71,8 +87,16 @@ Control* controlWithMnemonic(const Form& form, char32_t letter)
 {
     const auto& controls = form.controls();
     const auto found = std::find_if(controls.begin(), controls.end(), [&](const Control* control) {
-        return answersToMnemonic(*control) && control->seen() && control->enabled() &&
-               mnemonicOf(captionOf(*control)) == base::upper(letter);
+        return hasLetter(*control, letter) && answersToMnemonic(*control, letter);
+    });
+    return found == controls.end() ? nullptr : *found;
+}
+
+Control* firstStopIn(const Control& frame)
+{
+    const auto& controls = frame.form.controls();
+    const auto found = std::find_if(controls.begin(), controls.end(), [&](const Control* control) {
+        return control->container == &frame && control->canTakeFocus();
     });
     return found == controls.end() ? nullptr : *found;
 }

@@ -18,7 +18,10 @@ char32_t mnemonicOf(std::string_view caption);
 std::string withoutMnemonic(std::string_view caption);
 
 /// The control of the form, seen and enabled, whose caption has this letter behind "&"; nullptr when there is none.
-/// An entry that only opens a menu is none.
+/// An entry that only opens a menu is none, and a frame is none whose letter stands in the menu bar.
 Control* controlWithMnemonic(const Form& form, char32_t letter);
+
+/// The first control in a frame that can take the focus, nullptr when there is none.
+Control* firstStopIn(const Control& frame);
 
 }  // namespace screen

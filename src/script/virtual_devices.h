@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/machine.h"
+#include "platform/page_layout.h"
 #include "script/machine_record.h"
 
 namespace script {
@@ -90,6 +91,44 @@ class VirtualSerialPort final : public platform::SerialPort {
     bool open_ = false;
     bool dtr_ = false;
     bool rts_ = false;
+};
+
+/// Prints into the record. A printer that is missing prints all the same, as its stand-in does; a failing one fails.
+class RecordedPrinter final : public platform::Printer {
+ public:
+    RecordedPrinter(const MachineDescription& description, MachineRecord& record)
+        : description_(description), record_(record)
+    {
+    }
+    void begin(const std::string& name) override;
+    void setFont(const std::string& name, double points) override;
+    void setBold(bool bold) override;
+    void print(int column, const std::string& text) override;
+    void endLine() override;
+    void endPage() override;
+    void endDocument() override;
+
+ private:
+    void mustWork();
+    void close();
+
+    const MachineDescription& description_;
+    MachineRecord& record_;
+    platform::PageLayout layout_;
+    bool open_ = false;  ///< a document is being printed
+    std::string font_;
+    double points_ = 0;
+    bool bold_ = false;
+};
+
+class VirtualVolumes final : public platform::Volumes {
+ public:
+    explicit VirtualVolumes(const MachineDescription& description) : description_(description) {}
+    std::optional<std::string> driveA() const override { return description_.drive; }
+    std::vector<std::string> names() const override;
+
+ private:
+    const MachineDescription& description_;
 };
 
 class RecordedHelp final : public platform::HelpViewer {

@@ -19,7 +19,7 @@ fs::path bareAbsolute(const fs::path& folder)
 
 VirtualMachine::VirtualMachine(const fs::path& folder)
     : installation_(platform::pathText(bareAbsolute(folder))), drivers_{boxes, notices_, clock, keyboard, clipboard, sound_, serialPort,
-help_, screen_, installation_}
+printer_, volumes_, help_, screen_, installation_}
 {
 }
 

@@ -44,6 +44,8 @@ class VirtualMachine {
  private:
     RecordedNotices notices_{record};
     VirtualSound sound_{description, record, clock};
+    RecordedPrinter printer_{description, record};
+    VirtualVolumes volumes_{description};
     RecordedHelp help_{record, clock};
     VirtualScreen screen_{description};
     VirtualInstallation installation_;

@@ -93,6 +93,21 @@ std::string maratonLogSortedByBand(std::string_view band)
     return "SELECT * FROM UusLGYO2 WHERE Bnd='" + value(band) + "' ORDER BY Bnd , ID; ";
 }
 
+std::string maratonLogByNumber()
+{
+    return "SELECT * FROM UusLGYO2 ORDER BY ID";
+}
+
+std::string wholeMaratonLogByBand()
+{
+    return "SELECT * FROM UusLGYO2 ORDER BY Bnd , ID ";
+}
+
+std::string microwaveRowsWithTime()
+{
+    return "SELECT * FROM UusGHz WHERE UTC>''; ";
+}
+
 std::string emptyTable(std::string_view table)
 {
     return "DELETE * FROM " + text(table);

@@ -46,6 +46,15 @@ std::string maratonLogOfBand(std::string_view band);
 /// The same, as the review form asks for it.
 std::string maratonLogSortedByBand(std::string_view band);
 
+/// The whole Maraton log, in the order of entry.
+std::string maratonLogByNumber();
+
+/// The whole Maraton log, band by band.
+std::string wholeMaratonLogByBand();
+
+/// The GHz log as its writer asks for it: rows with a time, which every logged row has.
+std::string microwaveRowsWithTime();
+
 /// Takes all rows out of a table.
 std::string emptyTable(std::string_view table);
 

@@ -117,4 +117,14 @@ std::vector<Row> RecordSet::rowsBefore(const Row& anchor, std::size_t count) con
     return cursor().rows(Direction::backward, &anchor, count);
 }
 
+double RecordSet::shareBefore(const Row& row) const
+{
+    return cursor().shareBefore(row);
+}
+
+std::vector<Row> RecordSet::rowsAtShare(double share, std::size_t count) const
+{
+    return cursor().rowsAtShare(share, count);
+}
+
 }  // namespace storage

@@ -76,6 +76,14 @@ class RecordSet {
     std::vector<Row> rowsAfter(const Row& anchor, std::size_t count) const;
     std::vector<Row> rowsBefore(const Row& anchor, std::size_t count) const;
 
+    /// About which share of the set stands before a row: 0 at the first row, 1 at the last, 0 in an empty set. Nobody
+    /// counts for it: it is told from the keys of the ends where the set is in the order of its keys, elsewhere from
+    /// what the rows of a sample are sorted by. It never falls from a row to a later one.
+    double shareBefore(const Row& row) const;
+    /// Up to `count` rows from about the place on that has this share of the set before it. A greater share gives no
+    /// earlier rows.
+    std::vector<Row> rowsAtShare(double share, std::size_t count) const;
+
  private:
     RecordSetCursor& cursor() const;
 

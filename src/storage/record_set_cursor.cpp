@@ -169,11 +169,44 @@ std::optional<std::int64_t> RecordSetCursor::currentKey() const
 
 std::vector<Row> RecordSetCursor::rows(Direction direction, const Row* anchor, std::size_t count) const
 {
+    if (anchor == nullptr) return readRows(direction, nullptr, count);
+    const Place from = reader_.placeOf(*anchor);
+    return readRows(direction, &from, count);
+}
+
+/// Nothing for an empty set.
+const PlaceScale* RecordSetCursor::scale() const
+{
+    if (scale_ && scaleWrites_ == reader_.connection().writes()) return &*scale_;
+    scaleWrites_ = reader_.connection().writes();
+    std::vector<Place> marks = reader_.marks();
+    if (marks.empty())
+        scale_.reset();
+    else
+        scale_.emplace(std::move(marks));
+    return scale_ ? &*scale_ : nullptr;
+}
+
+double RecordSetCursor::shareBefore(const Row& row) const
+{
+    const PlaceScale* const scale = this->scale();
+    return scale == nullptr ? 0 : scale->shareBefore(reader_.placeOf(row));
+}
+
+std::vector<Row> RecordSetCursor::rowsAtShare(double share, std::size_t count) const
+{
+    const PlaceScale* const scale = this->scale();
+    if (scale == nullptr) return {};
+    const Place from = scale->placeAt(share);
+    return readRows(Direction::forward, &from, count);
+}
+
+std::vector<Row> RecordSetCursor::readRows(Direction direction, const Place* from, std::size_t count) const
+{
     Block block;
     for (std::size_t number = 0; number < current_.size(); ++number)
         block.columns.push_back(static_cast<int>(number));
-    const std::optional<Place> from = anchor != nullptr ? std::optional(reader_.placeOf(*anchor)) : std::nullopt;
-    reader_.read(direction, from ? &*from : nullptr, count, block);
+    reader_.read(direction, from, count, block);
 
     std::vector<Row> rows(block.places.size());
     for (std::size_t row = 0; row < rows.size(); ++row) {

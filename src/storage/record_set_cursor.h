@@ -4,10 +4,12 @@
 #include <bitset>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "storage/place_scale.h"
 #include "storage/row_reader.h"
 
 namespace storage {
@@ -32,6 +34,8 @@ class RecordSetCursor {
     std::optional<std::int64_t> currentKey() const;
 
     std::vector<Row> rows(Direction direction, const Row* anchor, std::size_t count) const;
+    double shareBefore(const Row& row) const;
+    std::vector<Row> rowsAtShare(double share, std::size_t count) const;
     std::int64_t count() const { return reader_.count(); }
     const std::vector<std::string>& columnNames() const { return reader_.columnNames(); }
     std::uint64_t generation() const { return generation_; }
@@ -48,6 +52,8 @@ class RecordSetCursor {
     bool readBlock(Direction direction, const Place* from, std::size_t count);
     void standOn(std::size_t row);
     bool blockIsFresh() const;
+    std::vector<Row> readRows(Direction direction, const Place* from, std::size_t count) const;
+    const PlaceScale* scale() const;
     void requireRow() const;
     void load(std::size_t number);
     std::size_t nextBlockSize() const;
@@ -67,6 +73,10 @@ class RecordSetCursor {
     std::vector<std::string> current_;  ///< texts of the current row; references to them go out
     std::uint64_t currentWrites_ = 0;
     Columns loaded_;  ///< columns of the current row that stand in `current_`
+
+    // Made when it is asked for, and again behind a write.
+    mutable std::optional<PlaceScale> scale_;
+    mutable std::uint64_t scaleWrites_ = 0;
 };
 
 }  // namespace storage

@@ -1,6 +1,7 @@
 #include "storage/row_reader.h"
 
 #include <algorithm>
+#include <cmath>
 #include <variant>
 
 #include "base/runtime_error.h"
@@ -34,11 +35,11 @@ struct RowReader::Stretch {
     }
 };
 
-RowReader::RowReader(std::shared_ptr<Connection> connection, Selection selection)
-    : connection_(std::move(connection)), table_(std::move(selection.table)), condition_(std::move(selection.condition))
+RowReader::RowReader(std::shared_ptr<Connection> connection, const Selection& selection)
+    : connection_(std::move(connection)), table_(selection.table), condition_(selection.condition)
 {
     readColumnNames();
-    resolveOrder(selection.order);
+    resolveOrder(selection);
     PreparedStatement greatest(*connection_, "SELECT max(rowid) FROM " + table_);
     if (greatest.step()) lastKey_ = greatest.integer(0);
 }
@@ -50,16 +51,17 @@ void RowReader::readColumnNames()
         columnNames_.push_back(all.columnName(number));
 }
 
-/// The counter `ID` is the key itself, which ends every order; no column behind it can make a difference.
-void RowReader::resolveOrder(const std::vector<std::string>& names)
+/// The counter `ID` is the key itself, which ends every order; no column behind it can make a difference, nor can one
+/// that has the same value in all rows.
+void RowReader::resolveOrder(const Selection& selection)
 {
-    for (const std::string& name : names) {
-        const auto found = std::find_if(columnNames_.begin(), columnNames_.end(), [&](const std::string& columnName) {
-            return base::equalIgnoringCase(columnName, name);
-        });
+    for (const std::string& name : selection.order) {
+        const auto sameName = [&](const std::string& other) { return base::equalIgnoringCase(other, name); };
+        const auto found = std::find_if(columnNames_.begin(), columnNames_.end(), sameName);
         if (found == columnNames_.end())
             throw base::RuntimeError(base::invalidArgument, table_ + " has no column " + name);
         if (base::equalIgnoringCase(name, "ID")) return;
+        if (std::any_of(selection.fixed.begin(), selection.fixed.end(), sameName)) continue;
         order_.push_back(static_cast<int>(found - columnNames_.begin()));
     }
 }
@@ -131,6 +133,15 @@ std::vector<RowReader::Stretch> RowReader::stretchesFrom(Direction direction, co
     return stretches;
 }
 
+/// Of a row that begins with its key and the columns of the order.
+Place RowReader::placeIn(const PreparedStatement& row) const
+{
+    Place place{row.integer(0), {}};
+    for (int i = 1; i <= static_cast<int>(order_.size()); ++i)
+        place.order.push_back(row.isNull(i) ? std::nullopt : std::optional<std::string>(row.text(i)));
+    return place;
+}
+
 void RowReader::readStretch(const Stretch& stretch, Direction direction, std::size_t count, Block& block) const
 {
     std::string columns;
@@ -142,14 +153,10 @@ void RowReader::readStretch(const Stretch& stretch, Direction direction, std::si
     rows.bind(lastKey_);
     rows.bind(static_cast<std::int64_t>(count - block.places.size()));
 
-    const int firstOrdered = 1;
-    const int firstColumn = firstOrdered + static_cast<int>(order_.size());
+    const int firstColumn = 1 + static_cast<int>(order_.size());
     while (rows.step()) {
         const std::size_t row = block.places.size();
-        Place& place = block.places.emplace_back();
-        place.key = rows.integer(0);
-        for (int i = firstOrdered; i < firstColumn; ++i)
-            place.order.push_back(rows.isNull(i) ? std::nullopt : std::optional<std::string>(rows.text(i)));
+        block.places.push_back(placeIn(rows));
         for (std::size_t nth = 0; nth < block.columns.size(); ++nth)
             block.cell(row, nth).assign(rows.text(firstColumn + static_cast<int>(nth)));
     }
@@ -178,10 +185,7 @@ std::optional<Place> RowReader::find(std::int64_t key) const
     row.bind(key);
     row.bind(lastKey_);
     if (!row.step()) return std::nullopt;
-    Place place{key, {}};
-    for (int i = 1; i < row.columnCount(); ++i)
-        place.order.push_back(row.isNull(i) ? std::nullopt : std::optional<std::string>(row.text(i)));
-    return place;
+    return placeIn(row);
 }
 
 Place RowReader::placeOf(const Row& row) const
@@ -209,6 +213,38 @@ bool RowReader::deleteRow(std::int64_t key) const
     PreparedStatement row(*connection_, "DELETE FROM " + table_ + " WHERE rowid = ?", Access::writing);
     row.bind(key);
     return connection_->run(row) != 0;
+}
+
+std::vector<Place> RowReader::marks() const
+{
+    Block end;
+    read(Direction::forward, nullptr, 1, end);
+    if (end.places.empty()) return {};
+    std::vector<Place> marks = end.places;
+    read(Direction::backward, nullptr, 1, end);
+    marks.insert(marks.end(), end.places.begin(), end.places.end());
+    if (marks.front().order != marks.back().order) addSamples(marks);
+    return marks;
+}
+
+/// Rows from all over the table, by their keys: how they lie in the order of the set, all rows do. The steps of the
+/// golden section spread them evenly, and fall in step with no pattern of the log.
+void RowReader::addSamples(std::vector<Place>& marks) const
+{
+    constexpr int samples = 128;
+    constexpr double goldenSection = 0.6180339887498949;
+    PreparedStatement least(*connection_, "SELECT min(rowid) FROM " + table_);
+    const std::int64_t firstKey = least.step() ? least.integer(0) : 0;
+    const std::string belongs = condition_.empty() ? "1" : "(" + condition_ + ")";
+    const std::string text = "SELECT rowid" + orderColumns() + ", " + belongs + " FROM " + table_ +
+                             " WHERE rowid >= ? AND rowid <= ? ORDER BY rowid LIMIT 1";
+    for (int i = 1; i <= samples; ++i) {
+        const double part = i * goldenSection - std::floor(i * goldenSection);
+        PreparedStatement row(*connection_, text);
+        row.bind(firstKey + std::llround(part * static_cast<double>(lastKey_ - firstKey)));
+        row.bind(lastKey_);
+        if (row.step() && row.integer(1 + static_cast<int>(order_.size())) != 0) marks.push_back(placeIn(row));
+    }
 }
 
 std::int64_t RowReader::count() const

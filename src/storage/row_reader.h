@@ -16,6 +16,7 @@
 namespace storage {
 
 class Connection;
+class PreparedStatement;
 
 enum class Direction { forward, backward };
 
@@ -36,7 +37,7 @@ struct Block {
 class RowReader {
  public:
     /// Errors: 3059 when the table is not there, 5 when the selection is none.
-    RowReader(std::shared_ptr<Connection> connection, Selection selection);
+    RowReader(std::shared_ptr<Connection> connection, const Selection& selection);
 
     const std::vector<std::string>& columnNames() const { return columnNames_; }
     Connection& connection() const { return *connection_; }
@@ -57,6 +58,11 @@ class RowReader {
     /// Deletes a row of the table. False when it is gone already.
     bool deleteRow(std::int64_t key) const;
 
+    /// Places of some rows, from the whole set and without an order, with the first and the last row among them; none
+    /// for an empty set. As many lie between each two of them as chance has it. Their number does not depend on the
+    /// set.
+    std::vector<Place> marks() const;
+
     /// Number of rows in the set.
     std::int64_t count() const;
 
@@ -64,9 +70,11 @@ class RowReader {
     struct Stretch;
 
     void readColumnNames();
-    void resolveOrder(const std::vector<std::string>& names);
+    void resolveOrder(const Selection& selection);
     std::vector<Stretch> stretchesFrom(Direction direction, const Place* from) const;
     void readStretch(const Stretch& stretch, Direction direction, std::size_t count, Block& block) const;
+    void addSamples(std::vector<Place>& marks) const;
+    Place placeIn(const PreparedStatement& row) const;
     std::string whereClause(const std::string& stretch) const;
     std::string orderClause(Direction direction) const;
     std::string orderColumns() const;

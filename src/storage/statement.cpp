@@ -114,6 +114,21 @@ std::string parseCondition(Tokens tokens, std::string_view statement)
     return translated(tokens.subspan(1));
 }
 
+/// Columns with one value in all rows: those of a condition that is nothing but names that equal texts, joined by AND.
+std::vector<std::string> fixedColumns(Tokens where)
+{
+    constexpr std::size_t pace = 4;  // WHERE or AND, a name, a sign, a text
+    std::vector<std::string> fixed;
+    if (where.size() % pace != 0) return {};
+    for (std::size_t i = 0; i < where.size(); i += pace) {
+        const bool joined = i == 0 || isWord(where[i], "AND");
+        const bool equals = isName(where[i + 1]) && isSign(where[i + 2], '=') && where[i + 3].kind == TokenKind::text;
+        if (!joined || !equals) return {};
+        fixed.push_back(nameIn(where[i + 1]));
+    }
+    return fixed;
+}
+
 std::vector<std::string> parseOrder(Tokens tokens, std::string_view statement)
 {
     if (tokens.empty()) return {};
@@ -134,7 +149,7 @@ Selection parseSelection(std::string_view statement)
 {
     const std::vector<Token> all = tokensOf(statement);
     const Tokens tokens = firstStatement(all, statement);
-    if (tokens.size() == 1 && isName(tokens[0])) return {std::string(tokens[0].source), {}, {}};
+    if (tokens.size() == 1 && isName(tokens[0])) return {std::string(tokens[0].source), {}, {}, {}};
 
     const bool whole = tokens.size() >= 4 && isWord(tokens[0], "SELECT") && isSign(tokens[1], '*') &&
                        isWord(tokens[2], "FROM") && isName(tokens[3]);
@@ -142,7 +157,7 @@ Selection parseSelection(std::string_view statement)
     const Tokens rest = tokens.subspan(4);
     const std::size_t order = findOrder(rest);
     return {std::string(tokens[3].source), parseCondition(rest.first(order), statement),
-            parseOrder(rest.subspan(order), statement)};
+            parseOrder(rest.subspan(order), statement), fixedColumns(rest.first(order))};
 }
 
 std::string translateAction(std::string_view statement)

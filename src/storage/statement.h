@@ -16,6 +16,7 @@ struct Selection {
     std::string table;               ///< as the statement spells it
     std::string condition;           ///< what stands behind WHERE, translated; empty without one
     std::vector<std::string> order;  ///< the columns behind ORDER BY
+    std::vector<std::string> fixed;  ///< columns that the condition gives one value in all rows
 };
 
 /// Takes apart "SELECT * FROM table [WHERE condition] [ORDER BY column, ...] [;]", or the bare name of a table, which

@@ -5,6 +5,7 @@
 #include <thread>
 
 #include "base/runtime_error.h"
+#include "screen/form.h"
 
 namespace {
 
@@ -27,6 +28,25 @@ TEST(EntryQueueTest, EntriesComeInTheirOrder)
     queue.post(typed(U'b'));
     EXPECT_EQ(characterOf(queue.poll()), U'a');
     EXPECT_EQ(characterOf(queue.waitUntil(std::nullopt)), U'b');
+    EXPECT_FALSE(queue.poll());
+}
+
+TEST(EntryQueueTest, OnlyTheNewestStepOfADragWaits)
+{
+    screen::Form form("Page");
+    screen::Label one(&form, "one");
+    screen::Label other(&form, "other");
+    EntryQueue queue;
+    queue.post(app::GridDragged{&one, 0.1, 10});
+    queue.post(app::GridDragged{&one, 0.2, 10});
+    queue.post(app::GridDragged{&other, 0.3, 10});
+    queue.post(typed(U'a'));
+    queue.post(app::GridDragged{&other, 0.4, 10});
+    const auto place = [&] { return std::get<app::GridDragged>(queue.poll().value()).place; };
+    EXPECT_DOUBLE_EQ(place(), 0.2);
+    EXPECT_DOUBLE_EQ(place(), 0.3);
+    EXPECT_EQ(characterOf(queue.poll()), U'a');
+    EXPECT_DOUBLE_EQ(place(), 0.4);
     EXPECT_FALSE(queue.poll());
 }
 
@@ -59,6 +79,15 @@ TEST(EntryQueueTest, AnAnswerWakesTheThreadThatWaitsForIt)
     program.join();
     EXPECT_EQ(answer, platform::buttonYes);
     EXPECT_FALSE(queue.idle()) << "nobody waits any more";
+}
+
+TEST(EntryQueueTest, StoppingIsToldToWhateverElseWaits)
+{
+    EntryQueue queue;
+    const std::stop_token stops = queue.stopToken();
+    EXPECT_FALSE(stops.stop_requested());
+    queue.stop();
+    EXPECT_TRUE(stops.stop_requested());
 }
 
 TEST(EntryQueueTest, StoppingEndsTheProgramWhereverItWaits)

@@ -29,6 +29,32 @@ class FormViewTest : public testing::Test {
     QRect placeOf(std::size_t control) { return view_.placeOf(page_.picture().controls.at(control).control); }
     QPoint middleOf(std::size_t control) { return placeOf(control).center(); }
 
+    /// The pointer moves with its main button held. The platform without a screen does not tell which one is.
+    void move(QPoint at)
+    {
+        QMouseEvent moved(QEvent::MouseMove, at, QPointF(), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&view_, &moved);
+    }
+
+    /// The thumb of the first control as it is painted: its grey from top to bottom in the middle of the bar.
+    QRect thumb()
+    {
+        const QImage image = painted();
+        const int x = placeOf(0).right() - 7;
+        std::vector<int> rows;
+        for (int y = placeOf(0).top(); y <= placeOf(0).bottom(); ++y)
+            if (image.pixelColor(x, y) == QColor(150, 150, 150)) rows.push_back(y);
+        if (rows.empty()) return {};
+        return {QPoint(x, rows.front()), QPoint(x, rows.back())};
+    }
+
+    /// The place in an entry like "drag 0 0.25 of 10".
+    static double placeIn(const std::string& entry)
+    {
+        EXPECT_EQ(entry.substr(0, 7), "drag 0 ");
+        return std::stod(entry.substr(7));
+    }
+
     void click(QPoint at) { QTest::mouseClick(&view_, Qt::LeftButton, Qt::NoModifier, at); }
 
     /// What the window posted since the last look.
@@ -243,10 +269,7 @@ TEST_F(FormViewTest, DraggingInATextBoxSelects)
     show();
     const QPoint start = placeOf(0).topLeft() + QPoint(4, 10);
     QTest::mousePress(&view_, Qt::LeftButton, Qt::NoModifier, start);
-    // The platform without a screen does not tell which button is held during a move.
-    QMouseEvent move(QEvent::MouseMove, placeOf(0).topRight() + QPoint(-6, 10), QPointF(), Qt::NoButton, Qt::LeftButton,
-                     Qt::NoModifier);
-    QCoreApplication::sendEvent(&view_, &move);
+    move(placeOf(0).topRight() + QPoint(-6, 10));
     QTest::mouseRelease(&view_, Qt::LeftButton, Qt::NoModifier, placeOf(0).topRight() + QPoint(-6, 10));
     EXPECT_EQ(posted(), (Posted{"caret 0 0", "extend 0 6"}));
 }
@@ -326,7 +349,7 @@ TEST_F(FormViewTest, RowsOfAGridArePicked)
 
 TEST_F(FormViewTest, AGridIsScrolledByItsBarAndByTheWheel)
 {
-    page_.addGrid({600, 600, 6000, 3000}, 10, true, true);
+    page_.addGrid({600, 600, 6000, 3000}, 10, true, true, 0.5);
     show();
     posted();
     const auto scrolledAt = [&](int fromTop) {
@@ -346,6 +369,90 @@ TEST_F(FormViewTest, AGridIsScrolledByItsBarAndByTheWheel)
                       false);
     QCoreApplication::sendEvent(&view_, &wheel);
     EXPECT_EQ(posted(), Posted{"scroll 0 -3 of 10"});
+}
+
+TEST_F(FormViewTest, TheRowsOfAGridFollowItsThumb)
+{
+    page_.addGrid({600, 600, 6000, 6000}, 20, true, true, 0.5);
+    show();
+    posted();
+    const QRect before = thumb();
+    const QPoint grip(before.center().x(), before.top() + 3);
+    QTest::mousePress(&view_, Qt::LeftButton, Qt::NoModifier, grip);
+    EXPECT_EQ(posted(), Posted{}) << "it has not moved yet";
+    EXPECT_EQ(thumb(), before);
+
+    move(grip + QPoint(0, 40));
+    const Posted down = posted();
+    ASSERT_EQ(down.size(), 1U);
+    EXPECT_EQ(down.front().substr(0, 9), "drag 0 0.");
+    EXPECT_GT(placeIn(down.front()), 0.5);
+    EXPECT_EQ(thumb(), before.translated(0, 40)) << "it stays under the pointer until the rows are there";
+    move(grip + QPoint(-300, 40));
+    EXPECT_EQ(posted(), Posted{}) << "beside the bar it is held all the same";
+
+    move(grip + QPoint(0, 2000));
+    EXPECT_DOUBLE_EQ(placeIn(posted().back()), 1);
+    move(grip - QPoint(0, 2000));
+    EXPECT_DOUBLE_EQ(placeIn(posted().back()), 0);
+
+    QTest::mouseRelease(&view_, Qt::LeftButton, Qt::NoModifier, middleOf(0));
+    EXPECT_EQ(posted(), Posted{}) << "no row is picked";
+    EXPECT_EQ(thumb(), before) << "where the picture has it";
+}
+
+TEST_F(FormViewTest, AHeldThumbIgnoresThePlacesOfThePictures)
+{
+    page_.addGrid({600, 600, 6000, 6000}, 20, true, true, 0.5);
+    show();
+    const QRect before = thumb();
+    const QPoint grip = before.center();
+    QTest::mousePress(&view_, Qt::LeftButton, Qt::NoModifier, grip);
+    move(grip + QPoint(0, 40));
+    const app::ControlPicture old = page_.picture().controls[0];
+    auto rows = std::make_shared<app::GridRows>(*old.grid->rows);
+    rows->place = 0.9;
+    auto grid = std::make_shared<app::GridPicture>(*old.grid);
+    grid->rows = rows;
+    page_.picture().controls[0].grid = grid;
+    view_.setPicture(page_.take());
+    EXPECT_EQ(thumb(), before.translated(0, 40));
+    QTest::mouseRelease(&view_, Qt::LeftButton, Qt::NoModifier, grip + QPoint(0, 40));
+    EXPECT_GT(thumb().top(), before.top() + 40) << "behind a gap";
+}
+
+TEST_F(FormViewTest, AListFollowsItsThumb)
+{
+    app::ControlPicture& list = page_.add(Kind::listBox, {600, 600, 1800, 3000});
+    for (int i = 0; i < 100; ++i)
+        list.items.push_back(std::to_string(2320 + i));
+    show();
+    const QPoint grip = thumb().center();
+    QTest::mousePress(&view_, Qt::LeftButton, Qt::NoModifier, grip);
+    move(grip + QPoint(0, 2000));
+    QTest::mouseRelease(&view_, Qt::LeftButton, Qt::NoModifier, grip + QPoint(0, 2000));
+    EXPECT_EQ(posted(), Posted{});
+    click(placeOf(0).bottomLeft() + QPoint(10, -8));
+    EXPECT_EQ(posted(), Posted{"item 0 99"});
+}
+
+TEST_F(FormViewTest, TheLetterOfAFrameIsUnderlined)
+{
+    page_.add(Kind::frame, {600, 600, 3000, 1500}, "&DELETE");
+    page_.add(Kind::frame, {600, 3600, 3000, 1500}, "DELETE");
+    show();
+    const QImage image = painted();
+    const QRect marked(placeOf(0).topLeft(), QSize(100, 14));
+    const QRect plain(placeOf(1).topLeft(), QSize(100, 14));
+    const auto black = [&](const QRect& place) {
+        int count = 0;
+        for (int y = place.top(); y <= place.bottom(); ++y)
+            for (int x = place.left(); x <= place.right(); ++x)
+                if (image.pixelColor(x, y).lightness() < 100) ++count;
+        return count;
+    };
+    EXPECT_GT(black(marked), black(plain)) << "the line";
+    EXPECT_LT(black(marked), black(plain) + 20) << "no sign more";
 }
 
 TEST_F(FormViewTest, TheCurrentRowIsMarked)

@@ -3,7 +3,10 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <stop_token>
+#include <thread>
 
+#include "base/runtime_error.h"
 #include "desktop/command_line.h"
 #include "desktop/help_file.h"
 #include "desktop/key_state.h"
@@ -117,6 +120,33 @@ TEST(MachineClockTest, SleepingEndsAtTheDeadlineAndNotBefore)
     clock.sleepUntil(deadline);
     EXPECT_GE(clock.monotonic(), deadline);
     clock.sleepUntil(deadline);
+}
+
+TEST(MachineClockTest, TheEndOfTheProgramEndsASleep)
+{
+    std::stop_source programStops;
+    desktop::MachineClock clock(programStops.get_token());
+    std::thread end([&] { programStops.request_stop(); });
+    EXPECT_THROW(clock.sleepUntil(clock.monotonic() + std::chrono::hours(1)), base::ProgramEnd);
+    end.join();
+    EXPECT_THROW(clock.sleepUntil(clock.monotonic()), base::ProgramEnd);
+}
+
+TEST(MachineClockTest, TheTimeOfDayIsThatOfTheDate)
+{
+    const desktop::MachineClock clock;
+    platform::LocalTime before;
+    platform::LocalTime after;
+    std::chrono::milliseconds time{};
+    // Once more if midnight comes in between.
+    do {
+        before = clock.now();
+        time = clock.timeOfDay();
+        after = clock.now();
+    } while (std::chrono::floor<std::chrono::days>(before) != std::chrono::floor<std::chrono::days>(after));
+    const auto midnight = std::chrono::floor<std::chrono::days>(before);
+    EXPECT_GE(midnight + time, before);
+    EXPECT_LT(midnight + time, after + std::chrono::seconds(1));
 }
 
 class MessageBoxTest : public testing::Test {

@@ -6,72 +6,16 @@
 set -euo pipefail
 
 programs=$1
-work=$(mktemp -d)
-station=$work/station
-server=
-program=
-window=
-
-# Nothing stays behind, whatever happens.
-clean_up() {
-    local status=$?
-    for process in $program $server; do
-        kill -KILL "$process" 2>/dev/null || true
-        wait "$process" 2>/dev/null || true
-    done
-    rm -rf "$work"
-    exit "$status"
-}
-trap clean_up EXIT
-trap 'exit 1' INT TERM HUP
-
-step="starting"
-fail() {
-    echo "FAILED while $step: $*"
-    echo "--- rows:"
-    rows || true
-    echo "--- windows:"
-    for window in $(xdotool search --onlyvisible --name . 2>/dev/null); do
-        echo "$window $(xdotool getwindowname "$window" 2>/dev/null)"
-    done
-    echo "--- what the program said:"
-    tail -n 40 "$work/program.log" || true
-    exit 1
-}
-
-# wait_for WHAT COMMAND...: until the command succeeds, at most 20 seconds.
-wait_for() {
-    local what=$1 end=$((SECONDS + 20))
-    shift
-    until "$@"; do
-        [ "$SECONDS" -lt "$end" ] || fail "waited in vain for $what"
-        sleep 0.05
-    done
-}
+source "$(dirname "$0")/real_window.sh"
 
 rows() {
     sqlite3 -cmd '.timeout 2000' "$station/LogKelvo.mdb" \
         'SELECT Callsign, Rcvd, QRALoc FROM Uus144a ORDER BY ID' 2>/dev/null
 }
 row_count_is() { [ "$(rows | wc -l)" -eq "$1" ]; }
-alive() { kill -0 "$program" 2>/dev/null; }
-gone() { ! alive; }
-server_is_ready() { [ -s "$work/display" ]; }
-title_has() { xdotool getwindowname "$window" 2>/dev/null | grep -q "$1"; }
-
-boxes() { xdotool search --onlyvisible --name '^(Kelvo|EXIT)$' 2>/dev/null | grep -vx "$window"; }
-box_is_open() { [ -n "$(boxes)" ]; }
-no_box_is_open() { ! box_is_open; }
-
-# The part of a window manager: the keyboard belongs to the newest window.
-give_keyboard() { xdotool windowfocus --sync "$1" 2>/dev/null; }
-keyboard_to_box() {
-    wait_for "a message box" box_is_open
-    wait_for "the keyboard in the box" give_keyboard "$(boxes | head -n 1)"
-}
-keyboard_to_form() {
-    wait_for "the box to go" no_box_is_open
-    wait_for "the keyboard in the form" give_keyboard "$window"
+show_more() {
+    echo "--- rows:"
+    rows
 }
 
 # expect_row NUMBER PATTERN: the row, as CALL|CODE|LOCATOR.
@@ -83,8 +27,6 @@ expect_row() {
     alive || fail "the program is gone"
 }
 
-typed() { xdotool type --delay 12 "$1"; }
-
 # log_qso CALL CODE LOCATOR
 log_qso() {
     typed "$1"
@@ -93,31 +35,8 @@ log_qso() {
     xdotool key Return
 }
 
-# press_button LEFT TOP: clicks a place of the form given in its twips, 12000 by 9000 on the whole form. The form lies
-# between the menu bar and the line of notices.
-screen_width=1024
-screen_height=768
-press_button() {
-    local menu=22 notices=19
-    xdotool mousemove $(($1 * screen_width / 12000)) $((menu + $2 * (screen_height - menu - notices) / 9000)) click 1
-}
-
-Xvfb -displayfd 3 -screen 0 "${screen_width}x${screen_height}x24" -nolisten tcp 3>"$work/display" >"$work/server.log" 2>&1 &
-server=$!
-wait_for "the X server" server_is_ready
-DISPLAY=":$(cat "$work/display")"
-export DISPLAY
-export QT_QPA_PLATFORM=xcb
-# Fonts and the window system keep what they allocate.
-export ASAN_OPTIONS="detect_leaks=0:${ASAN_OPTIONS:-}"
-
-mkdir "$station"
-"$programs/kelvo-newdb" "$station" >/dev/null
-"$programs/kelvo" --folder "$station" >"$work/program.log" 2>&1 &
-program=$!
-window=$(timeout 30 xdotool search --sync --onlyvisible --name '^Kelvo$' | head -n 1) || true
-[ -n "$window" ] || fail "no window"
-wait_for "the keyboard in the window" give_keyboard "$window"
+start_server
+start_program
 
 step="choosing the contest by the keyboard"
 xdotool key Tab Tab Tab Tab space

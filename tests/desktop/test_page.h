@@ -35,13 +35,16 @@ class Page {
     }
 
     /// A grid with `count` rows in view, of one column "Call", the first one with key 1.
-    app::ControlPicture& addGrid(const screen::Rectangle& place, int count, bool moreAbove, bool moreBelow)
+    /// `at` is the place of these rows among all, 0 to 1.
+    app::ControlPicture& addGrid(const screen::Rectangle& place, int count, bool moreAbove, bool moreBelow,
+                                 double at = 0)
     {
         auto rows = std::make_shared<app::GridRows>();
         for (int i = 1; i <= count; ++i)
             rows->rows.push_back({i, {std::to_string(i), "YO" + std::to_string(i) + "ABC"}});
         rows->moreAbove = moreAbove;
         rows->moreBelow = moreBelow;
+        rows->place = at;
         auto grid = std::make_shared<app::GridPicture>();
         grid->titles = {"ID", "Call"};
         grid->columnWidths = {0, 1200};
@@ -89,6 +92,10 @@ inline std::string told(const app::QueueEntry& entry, const app::Picture& pictur
         std::string operator()(const app::GridScrolled& e) const
         {
             return "scroll " + number(e.control) + " " + std::to_string(e.rows) + " of " + std::to_string(e.capacity);
+        }
+        std::string operator()(const app::GridDragged& e) const
+        {
+            return "drag " + number(e.control) + " " + std::to_string(e.place) + " of " + std::to_string(e.capacity);
         }
         std::string operator()(const app::TextPasted& e) const { return "paste " + e.text; }
         std::string operator()(const app::KeyWentDown&) const { return "key down"; }

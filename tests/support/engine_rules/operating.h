@@ -48,6 +48,29 @@ class OperatingRules : public Desk<SomeFace> {
         this->watch({&FrmQSO.DBGrid1, &FrmQSO.txtIndic});
     }
 
+    /// The review form with a hundred and more QSOs in view, on the first one.
+    void startReviewing()
+    {
+        this->startAndOpenEntry();
+        this->click(FrmQSO.mnuAnfang);
+        this->click(FrmInit.mnuLOG);
+        ASSERT_EQ(screen::activeForm(), &FrmAnzeigen);
+        this->inProgram([] {
+            storage::OpenDatabase(storage::logDatabasePath())
+                .Execute(
+                    "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 150) "
+                    "INSERT INTO Uus144a (Callsign) SELECT 'YO' || i FROM n");
+        });
+        this->click(FrmAnzeigen.mnuLogAnzeigen);
+        this->click(FrmAnzeigen.OpB144a);
+        ASSERT_TRUE(FrmAnzeigen.DBGrid1.seen());
+        this->watch({&FrmAnzeigen.DBGrid1, &FrmAnzeigen.OpB144a});
+        this->goTo(FrmAnzeigen.OpB144a);
+        this->inProgram([] { FrmAnzeigen.Uus144a.Recordset.MoveFirst(); });
+    }
+
+    static long currentRow(const screen::Grid& grid) { return std::stol(grid.data->Recordset.Field("ID")); }
+
     static std::string currentCall(const screen::Grid& grid) { return grid.data->Recordset.Field("Callsign"); }
 };
 TYPED_TEST_SUITE_P(OperatingRules);
@@ -266,6 +289,28 @@ TYPED_TEST_P(OperatingRules, AltAndTheMarkedLetterClick)
     EXPECT_EQ(FrmInit.TxtMyCall.Text.get(), "");
 }
 
+TYPED_TEST_P(OperatingRules, AltAndTheLetterOfAFrameLeadIntoIt)
+{
+    this->startIn(FrmInit.TxtMyCall);
+    this->watch({&FrmInit.mnuQSOfahren, &FrmInit.OpbConcurs, &FrmInit.OpbTest});
+    this->inProgram([] {
+        FrmInit.FraConcurs.Visible = true;
+        FrmInit.FraConcurs.Caption = "&Zona";
+        FrmInit.OpbConcurs.Enabled = false;
+    });
+    this->goTo(FrmInit.TxtMyCall);
+    this->strike("Alt+z");
+    EXPECT_EQ(this->focusedName(), "OpbTest") << "the first one that can take it";
+    EXPECT_EQ(this->takeLog(), Log({"OpbTest GotFocus", "OpbTest KeyUp 90"})) << "nothing is chosen";
+    EXPECT_FALSE(FrmInit.OpbTest.Value);
+
+    this->inProgram([] { FrmInit.FraConcurs.Caption = "&QTH"; });
+    this->goTo(FrmInit.TxtMyCall);
+    this->strike("Alt+q");
+    EXPECT_EQ(this->countOf("mnuQSOfahren Click"), 1) << "the menu keeps its letter";
+    EXPECT_EQ(this->countOf("OpbTest GotFocus"), 0);
+}
+
 TYPED_TEST_P(OperatingRules, F1OpensHelpWhereNoHandlerTakesIt)
 {
     this->start();
@@ -307,6 +352,60 @@ TYPED_TEST_P(OperatingRules, CtrlAndArrowsMoveInTheGrid)
     EXPECT_EQ(this->currentCall(FrmQSO.DBGrid1), last);
     EXPECT_EQ(this->focusedName(), "txtIndic");
     EXPECT_EQ(this->countOf("txtIndic KeyDown 38") + this->countOf("txtIndic KeyDown 40"), 0);
+}
+
+TYPED_TEST_P(OperatingRules, CtrlAndPageKeysMoveByPagesOnTheReviewForm)
+{
+    this->startReviewing();
+    screen::Grid& grid = FrmAnzeigen.DBGrid1;
+    this->strike("Ctrl+PageDown");
+    const long page = this->currentRow(grid) - 1;
+    EXPECT_GT(page, 5);
+    this->strike("Ctrl+PageDown");
+    EXPECT_EQ(this->currentRow(grid), 1 + 2 * page);
+    this->strike("Ctrl+PageUp");
+    EXPECT_EQ(this->currentRow(grid), 1 + page);
+    this->strike("Ctrl+Up");
+    this->strike("Ctrl+PageUp");
+    EXPECT_EQ(this->currentRow(grid), 1) << "no farther than the first row";
+    this->down("Ctrl+PageDown");
+    this->repeat("Ctrl+PageDown", 200);
+    this->up("Ctrl+PageDown");
+    EXPECT_EQ(this->currentRow(grid), 150);
+    EXPECT_EQ(this->countOf("DBGrid1 RowTouched"), 0);
+    EXPECT_EQ(this->countOf("OpB144a KeyDown 33") + this->countOf("OpB144a KeyDown 34"), 0);
+}
+
+TYPED_TEST_P(OperatingRules, CtrlHomeAndEndLeadToTheEndsOnTheReviewForm)
+{
+    this->startReviewing();
+    screen::Grid& grid = FrmAnzeigen.DBGrid1;
+    this->strike("Ctrl+End");
+    EXPECT_EQ(this->currentRow(grid), 150);
+    this->strike("Ctrl+End");
+    EXPECT_EQ(this->currentRow(grid), 150);
+    this->strike("Ctrl+Home");
+    EXPECT_EQ(this->currentRow(grid), 1);
+    this->strike("End");
+    EXPECT_EQ(this->currentRow(grid), 1) << "without Ctrl it is a key like others";
+    EXPECT_EQ(this->countOf("OpB144a KeyDown 35"), 1);
+    this->inProgram([] { storage::OpenDatabase(storage::logDatabasePath()).Execute("DELETE * FROM Uus144a"); });
+    this->click(FrmAnzeigen.OpB144a);
+    for (const char* key : {"Ctrl+Home", "Ctrl+End", "Ctrl+PageUp", "Ctrl+PageDown", "Ctrl+Up"})
+        this->strike(key);
+    EXPECT_FALSE(grid.data->Recordset.currentKey()) << "an empty log";
+}
+
+TYPED_TEST_P(OperatingRules, OnTheEntryFormPageKeysAndEndStayWithTheField)
+{
+    this->startWithThreeRows();
+    this->inProgram([] { FrmQSO.Uus144a.Recordset.moveTo(2); });
+    this->goTo(FrmQSO.txtIndic);
+    for (const char* key : {"Ctrl+PageUp", "Ctrl+PageDown", "Ctrl+Home", "Ctrl+End"})
+        this->strike(key);
+    EXPECT_EQ(this->currentCall(FrmQSO.DBGrid1), "YO6BBB");
+    for (const char* code : {"33", "34", "35", "36"})
+        EXPECT_EQ(this->countOf(std::string("txtIndic KeyDown ") + code), 1);
 }
 
 TYPED_TEST_P(OperatingRules, CtrlAndDeleteTouchTheRow)
@@ -359,6 +458,8 @@ REGISTER_TYPED_TEST_SUITE_P(OperatingRules, AClickOnAChosenOptionRunsItsHandler,
                             ArrowsChooseInAList, ADoubleClickGivesTheFocusFirst, WhatIsSwitchedOffTakesNoLetter,
                             TabLeadsThroughTheSetUpPageInItsOrder, ShiftAndTabLeadBack,
                             TabMovesNothingByItselfOnTheEntryForm, AltAndTheMarkedLetterClick,
+                            AltAndTheLetterOfAFrameLeadIntoIt, CtrlAndPageKeysMoveByPagesOnTheReviewForm,
+                            CtrlHomeAndEndLeadToTheEndsOnTheReviewForm, OnTheEntryFormPageKeysAndEndStayWithTheField,
                             F1OpensHelpWhereNoHandlerTakesIt, HelpOpensAtTheNumberOfTheForm, CtrlAndArrowsMoveInTheGrid,
                             CtrlAndDeleteTouchTheRow, ADoubleClickTouchesARowOfTheEntryForm,
                             AClickTouchesARowOfTheReviewForm);
