@@ -9,6 +9,7 @@
 
 #include "base/text.h"
 #include "review/page.h"
+#include "review/reset.h"
 #include "runstate/modul1.h"
 #include "screen/frm_anzeigen.h"
 #include "screen/frm_init.h"
@@ -276,6 +277,19 @@ TEST_F(FormPlaces, ThePrintFrameReadsColumnByColumn)
     EXPECT_EQ(f.OpBDSumm144.Top, f.OpBD144a.Top);
     EXPECT_EQ(f.OpBDSumm432.Top, f.OpBD432a.Top);
     EXPECT_EQ(f.OpbDSumm1296.Top, f.OpBD1296a.Top);
+}
+
+TEST_F(FormPlaces, ALogThatIsLookedThroughReachesDownToTheFoot)
+{
+    const auto& f = FrmAnzeigen;
+    review::giveLogThePage();
+    EXPECT_EQ(f.DBGrid1.design.Top + f.DBGrid1.design.Height, 8880);
+    Controls elsewhere = takenAway();
+    elsewhere.insert({&f.Frame3, &f.Frame6, &f.Frame8, &f.Frame10, &f.FraArh, &f.FraBandEdi, &f.FraLogEDI1,
+                      &f.FraLogEDI2, &f.CmdGata});
+    expectInOrder(FrmAnzeigen, alternativesOfReview(), elsewhere);
+    review::hideOtherJobs();
+    expectInOrder(FrmAnzeigen, alternativesOfReview(), takenAway());
 }
 
 TEST_F(FormPlaces, TheButtonThatEndsAnInputMayMove)

@@ -9,6 +9,7 @@
 #include "entry/contest_groups.h"
 #include "entry/flow.h"
 #include "entry/log_table.h"
+#include "runstate/contest_codes.h"
 #include "runstate/modul1.h"
 #include "screen/frm_qso.h"
 #include "screen/grid_layout.h"
@@ -113,7 +114,7 @@ void stageAOn1296()
     prepareCode(Dute1296AB);
     sumOnce(Summe1296);
     // The score of the Maraton contest comes from its own log.
-    if (Modul1.ConcId == entry::maratonContest) return;
+    if (Modul1.ConcId == runstate::maratonContest) return;
     fillRow(0, "1296A", 1296, "A");
     if (Modul1.ConcId == 0) {
         sumStageB(Summe1296);
@@ -202,7 +203,7 @@ void openEntryIfModeIsChosen()
 void showLog(std::int32_t band)
 {
     const LogTable* table = logTableFor(band, Modul1.Etapa);
-    if (Modul1.ConcId == entry::maratonContest || table == nullptr) return;
+    if (Modul1.ConcId == runstate::maratonContest || table == nullptr) return;
     base::quietly<base::noCurrentRecord>([&] { entry::showWholeTable(*table); });
 }
 
@@ -223,7 +224,7 @@ void EA()
 {
     Modul1.Etapa = "A";
     openEntryIfModeIsChosen();
-    const bool maraton = Modul1.ConcId == entry::maratonContest;
+    const bool maraton = Modul1.ConcId == runstate::maratonContest;
     const std::int32_t band = Modul1.BandCur;
     if (band == 144 && !maraton) stageAOn144();
     if (band == 432 && !maraton) stageAOn432();

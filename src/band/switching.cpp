@@ -12,6 +12,7 @@
 #include "entry/contest_groups.h"
 #include "entry/flow.h"
 #include "entry/log_table.h"
+#include "runstate/contest_codes.h"
 #include "runstate/modul1.h"
 #include "screen/frm_qso.h"
 #include "screen/grid_layout.h"
@@ -29,7 +30,7 @@ bool contestIs(std::initializer_list<int> contests)
 /// they stand in the row that has room for the name.
 void moveReceivedFields(double threshold, double designTop)
 {
-    if (Modul1.ScaleY >= threshold || Modul1.ConcId == entry::maratonContest) return;
+    if (Modul1.ScaleY >= threshold || Modul1.ConcId == runstate::maratonContest) return;
     for (screen::TextBox* field : {&FrmQSO.TxtRSTR1, &FrmQSO.TxtRSTR2, &FrmQSO.TxtRSTr3})
         field->Top = Modul1.ScaleY * designTop;
 }

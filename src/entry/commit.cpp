@@ -14,6 +14,7 @@
 #include "entry/undo.h"
 #include "platform/civil_time.h"
 #include "platform/machine.h"
+#include "runstate/contest_codes.h"
 #include "runstate/modul1.h"
 #include "screen/frm_qso.h"
 #include "storage/database.h"
@@ -27,7 +28,6 @@ namespace {
 
 constexpr long mostQsos = 32767;
 /// The contest of the 6 m band works on 144 inside and is logged as 50.
-constexpr std::uint16_t sixMetres = 101;
 
 void openDatabases()
 {
@@ -49,7 +49,7 @@ bool takeCall()
 bool bandIsChosen()
 {
     const bool named = Modul1.BandCur > bandGHz;
-    if (named && (Modul1.ConcId == maratonContest || bandHasTable(Modul1.BandCur))) return true;
+    if (named && (Modul1.ConcId == runstate::maratonContest || bandHasTable(Modul1.BandCur))) return true;
     FrmQSO.LblAnunt.Visible = true;
     return false;
 }
@@ -99,7 +99,7 @@ void storeLastCode()
 void showWrittenRow()
 {
     const LogTable* table = currentLogTable();
-    if (Modul1.ConcId == maratonContest || table == nullptr) return;
+    if (Modul1.ConcId == runstate::maratonContest || table == nullptr) return;
     base::quietly<base::noCurrentRecord>([&] {
         screen::DataControl& data = FrmQSO.*table->data;
         data.Refresh();
@@ -124,16 +124,16 @@ void takeReceivedNumber()
 /// The whole log comes back into view, with the QSO at its end. A failure here may not keep the screen from clearing.
 void showLogAfterQso()
 {
-    if (Modul1.ConcId == maratonContest) return;
+    if (Modul1.ConcId == runstate::maratonContest) return;
     const LogTable* table = currentLogTable();
     if (table != nullptr) showWholeTable(*table);
-    const bool microwaves = Modul1.ConcId == internationalContest && Modul1.BandCur > highestNamedBand;
+    const bool microwaves = Modul1.ConcId == runstate::internationalContest && Modul1.BandCur > highestNamedBand;
     if (microwaves && FrmQSO.DubActual == 10) band::BGHz();
 }
 
 std::string frequencyText(const LogTable& table)
 {
-    if (table.band == 144 && Modul1.ConcId == sixMetres) return "50";
+    if (table.band == 144 && Modul1.ConcId == runstate::sixMetresContest) return "50";
     return base::toText(Modul1.BandCur);
 }
 
@@ -171,12 +171,12 @@ long lastCodeFor(std::int32_t band)
 {
     const int contest = Modul1.ConcId;
     const screen::Label* label = nullptr;
-    if (band == 144 && contest != sixMetres) label = &FrmQSO.LblCod;
+    if (band == 144 && contest != runstate::sixMetresContest) label = &FrmQSO.LblCod;
     const bool upperBand = band == 432 || band == 1296;
     if (upperBand && contest == 3) label = &FrmQSO.LblCod;
     if (upperBand && countsPerBand(contest)) label = band == 432 ? &FrmQSO.LblCod432 : &FrmQSO.LblCod1296;
     const bool microwaves = band == bandGHz || band > highestNamedBand;
-    if (microwaves && contest == internationalContest) label = &FrmQSO.LblCodGhz;
+    if (microwaves && contest == runstate::internationalContest) label = &FrmQSO.LblCodGhz;
     return label == nullptr ? 0 : std::lround(base::numericValue(label->Caption));
 }
 
@@ -227,7 +227,7 @@ void ScrieTab()
         Modul1.TimeQso = platform::validTime(Modul1.TimeOff).value_or(Modul1.TimeOff);
         Modul1.RstRcvd2 = FrmQSO.TxtRSTR2.Text;
     }
-    if (Modul1.ConcId == maratonContest) return band::ScrieTabYO2();
+    if (Modul1.ConcId == runstate::maratonContest) return band::ScrieTabYO2();
     switch (Modul1.BandCur) {
         case 144:
             return ScrieTab144();
@@ -268,7 +268,7 @@ void Rap1()
     if (!countsPerBand(contest)) return;
     const LogTable* table = currentLogTable();
     if (table == nullptr || table->band == 144) return;
-    if (table->band == bandGHz && contest != internationalContest && Modul1.BandCur != bandGHz) return;
+    if (table->band == bandGHz && contest != runstate::internationalContest && Modul1.BandCur != bandGHz) return;
     setNextCode(std::lround(base::numericValue((FrmQSO.*table->lastCode).Caption)));
 }
 
@@ -293,7 +293,7 @@ void Anulat()
     FrmQSO.Line4.Visible = false;
     FrmQSO.txtIndic.BackColor = screen::yellow;
     FrmQSO.TimeDone = 0;
-    if (Modul1.ConcId == maratonContest) FrmQSO.TxtYourName.Text = " ";
+    if (Modul1.ConcId == runstate::maratonContest) FrmQSO.TxtYourName.Text = " ";
 }
 
 void AbbruchX()
@@ -303,7 +303,7 @@ void AbbruchX()
         Anulat();
         Modul1.GridRebuild = 100;
         const LogTable* table = currentLogTable();
-        if (Modul1.ConcId == maratonContest)
+        if (Modul1.ConcId == runstate::maratonContest)
             band::ViewLogGen();
         else if (table != nullptr && table->band != bandGHz)
             base::quietly<base::noCurrentRecord>([&] { showWholeTable(*table); });

@@ -1,12 +1,7 @@
 // Groups of contests that the entry of a QSO tells apart.
 #pragma once
 
-#include <cstdint>
-
 namespace entry {
-
-constexpr std::uint16_t maratonContest = 7;
-constexpr std::uint16_t internationalContest = 100;
 
 /// Every band has a serial of its own; elsewhere one serial serves the whole contest.
 constexpr bool countsPerBand(int contest)

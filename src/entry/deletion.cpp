@@ -15,6 +15,7 @@
 #include "entry/field_keys.h"
 #include "entry/log_table.h"
 #include "platform/machine.h"
+#include "runstate/contest_codes.h"
 #include "runstate/modul1.h"
 #include "runstate/question.h"
 #include "screen/frm_qso.h"
@@ -54,7 +55,7 @@ const BandRow* bandRowFor(std::int32_t band)
 
 bool maraton()
 {
-    return Modul1.ConcId == maratonContest;
+    return Modul1.ConcId == runstate::maratonContest;
 }
 
 bool operatorWantsIt()

@@ -6,6 +6,7 @@
 #include "base/text.h"
 #include "entry/contest_groups.h"
 #include "entry/log_table.h"
+#include "runstate/contest_codes.h"
 #include "runstate/modul1.h"
 #include "screen/frm_qso.h"
 #include "storage/database.h"
@@ -105,7 +106,7 @@ void checkModeGroup(std::string_view stage)
 void zeroEarlierPoints()
 {
     const LogTable* table = currentLogTable();
-    if (Modul1.ConcId == maratonContest || table == nullptr || table->band == bandGHz) return;
+    if (Modul1.ConcId == runstate::maratonContest || table == nullptr || table->band == bandGHz) return;
     Modul1.DbLog = storage::OpenDatabase(storage::logDatabasePath());
     Modul1.DbLog.Execute(storage::zeroPointsOfCall(table->name, base::trim(Modul1.IndicLog)));
     table->layOut();
@@ -128,7 +129,7 @@ void IndicInfo()
 
 void IndicInfoDubl()
 {
-    if (Modul1.ConcId == maratonContest) return band::IndicInfoDublYO2();
+    if (Modul1.ConcId == runstate::maratonContest) return band::IndicInfoDublYO2();
     if (Modul1.BandCur == 144 && Modul1.ConcId != telecomDay) return IndicInfoDubl144();
     if (Modul1.BandCur == 144 && Modul1.Etapa == "A") return IndicDubl144A6();
     if (Modul1.BandCur == 144 && Modul1.Etapa == "B") return IndicDubl144B6();
@@ -188,7 +189,7 @@ void Verde()
 void presetRomanianField()
 {
     const int contest = Modul1.ConcId;
-    const bool always = contest == 1 || contest == 6 || contest == maratonContest;
+    const bool always = contest == 1 || contest == 6 || contest == runstate::maratonContest;
     if (!always && !(contest == 0 && FrmQSO.PrefixYO == "YO")) return;
     FrmQSO.TxtRSTr3.Text = "KN";
     FrmQSO.TxtRSTr3.SetFocus();
@@ -199,7 +200,7 @@ void OBtActual_Click()
 {
     FrmQSO.CmdEnterCall.Enabled = true;
     zeroEarlierPoints();
-    if (Modul1.ConcId != maratonContest) {
+    if (Modul1.ConcId != runstate::maratonContest) {
         FrmQSO.txtIndic.SetFocus();
         FrmQSO.txtIndic.caretToEnd();
     }

@@ -11,6 +11,7 @@
 #include "geo/rose.h"
 #include "platform/civil_time.h"
 #include "platform/machine.h"
+#include "runstate/contest_codes.h"
 #include "runstate/modul1.h"
 #include "screen/frm_qso.h"
 
@@ -55,7 +56,7 @@ bool callIsRed()
 
 bool maraton()
 {
-    return Modul1.ConcId == maratonContest;
+    return Modul1.ConcId == runstate::maratonContest;
 }
 
 /// A duplicate: the operator is asked which of the two QSOs keeps its points; the Maraton contest allows none.

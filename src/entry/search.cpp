@@ -4,6 +4,7 @@
 #include "base/text.h"
 #include "entry/contest_groups.h"
 #include "entry/log_table.h"
+#include "runstate/contest_codes.h"
 #include "runstate/modul1.h"
 #include "screen/frm_qso.h"
 #include "screen/grid_layout.h"
@@ -36,11 +37,12 @@ void narrowLog(const std::string& field, char32_t keyAscii)
     FrmQSO.KeyCode = base::toText(static_cast<long long>(keyAscii));
     ConvANSI();
     const std::string start = base::trim(field) + FrmQSO.KeyChar;
-    if (Modul1.ConcId == maratonContest) return search(FrmQSO.UusLGYO2, "UusLGYO2", screen::layOutUusLGYO2, start);
+    if (Modul1.ConcId == runstate::maratonContest)
+        return search(FrmQSO.UusLGYO2, "UusLGYO2", screen::layOutUusLGYO2, start);
     const LogTable* table = currentLogTable();
     if (table == nullptr) return;
     const bool microwaves = table->band == bandGHz;
-    if (microwaves && (Modul1.ConcId != internationalContest || Modul1.BandCur < lowestMicrowaveBand)) return;
+    if (microwaves && (Modul1.ConcId != runstate::internationalContest || Modul1.BandCur < lowestMicrowaveBand)) return;
     search(FrmQSO.*table->data, table->searchName, table->layOut, start);
 }
 

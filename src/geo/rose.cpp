@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "base/number.h"
+#include "runstate/contest_codes.h"
 #include "runstate/modul1.h"
 #include "screen/frm_qso.h"
 
@@ -11,7 +12,6 @@ namespace geo {
 namespace {
 
 constexpr double designWidth = 12000;
-constexpr std::uint16_t maraton = 7;
 constexpr double gapTwips = 50;  ///< between the needle and the discs at both of its ends
 
 /// Centre and radius by the width of the form, and where the Maraton page puts the labels beside it.
@@ -19,7 +19,7 @@ screen::Rose placeRose()
 {
     const double scale = Modul1.ScaleX;
     screen::Rose rose{true, 4300, 3500, 500, 0};
-    if (Modul1.ConcId == maraton) {
+    if (Modul1.ConcId == runstate::maratonContest) {
         if (scale == 1.0) {
             rose.X0 = 4000;
             rose.Y0 = 800;
@@ -59,7 +59,7 @@ void pointNeedle(const screen::Rose& rose)
 void Medalion()
 {
     Modul1.ScaleX = static_cast<float>(FrmQSO.Width / designWidth);
-    if (Modul1.ScaleX < 1.0F && Modul1.ConcId == maraton) return;
+    if (Modul1.ScaleX < 1.0F && Modul1.ConcId == runstate::maratonContest) return;
     screen::Rose rose = placeRose();
     rose.heading = FrmQSO.Beam;
     FrmQSO.rose = rose;

@@ -7,6 +7,7 @@
 #include "platform/files.h"
 #include "platform/machine.h"
 #include "review/folders.h"
+#include "review/output_modes.h"
 #include "review/reset.h"
 #include "review/writers.h"
 #include "runstate/modul1.h"
@@ -17,10 +18,6 @@ namespace review {
 
 namespace {
 
-constexpr int toArchive = 20;
-constexpr int leadsToFile = 10;
-constexpr int asText = 50;
-constexpr int asAdif = 60;
 constexpr int yesNoQuestionDefaultNo = 292;
 constexpr const char* oneUp = "..";
 constexpr std::size_t lengthOfExtension = 4;
@@ -93,8 +90,8 @@ void writeArchive(std::uint16_t format)
 
 void deleteArchive()
 {
-    if (FrmAnzeigen.ArhSelExt != asText && FrmAnzeigen.ArhSelExt != asAdif) return;
-    const std::string file = FrmAnzeigen.ArhName + (FrmAnzeigen.ArhSelExt == asText ? ".txt" : ".adi");
+    if (FrmAnzeigen.ArhSelExt != archiveAsText && FrmAnzeigen.ArhSelExt != archiveAsAdif) return;
+    const std::string file = FrmAnzeigen.ArhName + (FrmAnzeigen.ArhSelExt == archiveAsText ? ".txt" : ".adi");
     if (!platform::isFileName(file)) throw base::RuntimeError(base::noSuchFile, file + " is not there");
     platform::deleteFile(inFolder(archiveFolder(), file));
 }
@@ -165,8 +162,8 @@ void TxtNameDat_KeyPress(char32_t& KeyAscii)
 {
     KeyAscii = base::upper(KeyAscii);
     FrmAnzeigen.ArhName = FrmAnzeigen.TxtNameDat.Text;
-    cutExtension(".TXT", ".txt", asText);
-    cutExtension(".ADI", ".adi", asAdif);
+    cutExtension(".TXT", ".txt", archiveAsText);
+    cutExtension(".ADI", ".adi", archiveAsAdif);
 }
 
 void DrvList_Click()
@@ -188,12 +185,12 @@ void FilList_Click()
 
 void CmdMem_Click()
 {
-    writeArchive(asText);
+    writeArchive(archiveAsText);
 }
 
 void CmdArhivADI_Click()
 {
-    writeArchive(asAdif);
+    writeArchive(archiveAsAdif);
 }
 
 void CmdSterg_Click()

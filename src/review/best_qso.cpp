@@ -5,6 +5,7 @@
 #include "base/number.h"
 #include "base/runtime_error.h"
 #include "review/log_view.h"
+#include "review/output_modes.h"
 #include "runstate/modul1.h"
 #include "runstate/question.h"
 #include "storage/log_statements.h"
@@ -97,7 +98,7 @@ bool hasStages()
 
 bool writesFile()
 {
-    return FrmAnzeigen.OutMode == 1000 || FrmAnzeigen.OutMode == 10 || FrmAnzeigen.OutMode == 20;
+    return FrmAnzeigen.OutMode == toDrive || FrmAnzeigen.OutMode == toFolder || FrmAnzeigen.OutMode == toArchive;
 }
 
 void tellEmptyLog()

@@ -4,6 +4,7 @@
 #include "review/log_view.h"
 #include "review/reset.h"
 #include "review/views.h"
+#include "runstate/contest_codes.h"
 #include "runstate/modul1.h"
 #include "runstate/question.h"
 #include "screen/grid_layout.h"
@@ -11,8 +12,6 @@
 namespace review {
 
 namespace {
-
-constexpr int maraton = 7;
 
 void deleteRow(base::ResumeNext& go, screen::DataControl& data, void (*layOut)())
 {
@@ -37,7 +36,7 @@ void showLogAgain(base::ResumeNext& go)
 {
     if (Modul1.BandCur != 144 && Modul1.BandCur != 432 && Modul1.BandCur != 1296) return;
     const LogView* log = logViewFor(Modul1.BandCur, Modul1.Etapa);
-    if (log == nullptr || Modul1.ConcId == maraton) return;
+    if (log == nullptr || Modul1.ConcId == runstate::maratonContest) return;
     screen::DataControl& data = FrmAnzeigen.*log->data;
     go([&] { data.Refresh(); });
     go([&] { data.Recordset.MoveLast(); });

@@ -11,8 +11,8 @@ namespace review {
 /// All boxes into `EdiHdr`, in the order of the header: some as they stand, some trimmed.
 void SetDateEdi();
 
-/// The lines in front of the QSO records. Its first word, two keys that come twice and the club that stays empty are how
-/// this station's files have always looked.
+/// The lines in front of the QSO records. Its first word, two keys that come twice and the club that stays empty are
+/// how this station's files have always looked.
 std::vector<std::string> ediHeaderLines(const screen::EdiHeader& header);
 
 }  // namespace review

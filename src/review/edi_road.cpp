@@ -9,10 +9,12 @@
 #include "review/contest_name.h"
 #include "review/folders.h"
 #include "review/log_view.h"
+#include "review/output_modes.h"
 #include "review/page.h"
 #include "review/reset.h"
 #include "review/sums.h"
 #include "review/views.h"
+#include "runstate/contest_codes.h"
 #include "runstate/modul1.h"
 #include "screen/frm_anzeigen.h"
 
@@ -20,11 +22,6 @@ namespace review {
 
 namespace {
 
-constexpr int international = 100;
-constexpr int sixMetres = 101;
-constexpr int toFolder = 10;
-constexpr int asEdi = 100;
-constexpr int leadsToFile = 10;
 constexpr double endOfInputOnSmallScreen = 7000;  ///< twips, unscaled
 
 /// What the operator claims with a band.
@@ -54,7 +51,7 @@ Claim claimOf(std::int32_t band)
         case 3:
         case 5:
         case 8:
-        case international:
+        case runstate::internationalContest:
             return Claim::contestAsAWhole;
         case 7:  // The Maraton log goes no EDI road.
             return Claim::nothing;
@@ -64,7 +61,7 @@ Claim claimOf(std::int32_t band)
     if (band == entry::bandGHz) return Claim::contestAsAWhole;
     if (Modul1.ConcId == 0) return Claim::bothStages;
     if (band != 144) return Claim::nothing;
-    return Modul1.ConcId == 4 || Modul1.ConcId == sixMetres ? Claim::oneTable : Claim::bothStages;
+    return Modul1.ConcId == 4 || Modul1.ConcId == runstate::sixMetresContest ? Claim::oneTable : Claim::bothStages;
 }
 
 /// QSOs and points of the report, and the points of the contest.
@@ -98,10 +95,10 @@ void claimContestAsAWhole(const EdiBand& band)
     Summe144a();
     Summe432a();
     Summe1296a();
-    if (microwaves || Modul1.ConcId == international) SummeGHz();
+    if (microwaves || Modul1.ConcId == runstate::internationalContest) SummeGHz();
     double score = static_cast<double>(Modul1.Pct144a) + Modul1.Pct432a + Modul1.Pct1296a;
-    // The report of 144 leaves the microwaves out of the score, in the international contest too.
-    if (microwaves || (Modul1.ConcId == international && band.band != 144)) score += Modul1.PctGHz;
+    // The report of 144 leaves the microwaves out of the score, in the runstate::internationalContest contest too.
+    if (microwaves || (Modul1.ConcId == runstate::internationalContest && band.band != 144)) score += Modul1.PctGHz;
     const entry::LogTable& table = *logViewFor(band.band, "A")->table;
     showClaim(Modul1.*table.Qso, Modul1.*table.Pct, score);
 }
@@ -163,7 +160,7 @@ void mnuFormEDI_Click()
 
 void OpB144Edi_Click()
 {
-    choose(Modul1.ConcId == sixMetres ? on50 : on144);
+    choose(Modul1.ConcId == runstate::sixMetresContest ? on50 : on144);
 }
 
 void OpB432Edi_Click()

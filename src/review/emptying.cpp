@@ -5,6 +5,7 @@
 #include "review/log_view.h"
 #include "review/page.h"
 #include "review/reset.h"
+#include "runstate/contest_codes.h"
 #include "runstate/modul1.h"
 #include "runstate/question.h"
 #include "screen/grid_layout.h"
@@ -15,8 +16,6 @@ namespace review {
 
 namespace {
 
-constexpr int maraton = 7;
-constexpr int international = 100;
 constexpr const char* maratonTable = "UusLGYO2";
 
 void chooseLog(std::int32_t band, const char* stage)
@@ -47,7 +46,7 @@ void chooseMaratonLog()
 
 bool internationalContest()
 {
-    return Modul1.ConcId == international;
+    return Modul1.ConcId == runstate::internationalContest;
 }
 
 void emptyBandLog(base::ResumeNext& go)
@@ -82,7 +81,7 @@ void mnuLOGL_schen_Click()
 
 void OpbL144a_Click()
 {
-    if (Modul1.ConcId == maraton) return chooseMaratonLog();
+    if (Modul1.ConcId == runstate::maratonContest) return chooseMaratonLog();
     chooseLog(144, "A");
 }
 
@@ -122,7 +121,7 @@ void OpbLGHz_Click()
 std::string questionBeforeEmptying(int contest, std::int32_t band, std::string_view stage)
 {
     const std::string beginning = "DO YOU WANT TO DELETE ";
-    if (contest == maraton) return beginning + "CONTEST LOG ?";
+    if (contest == runstate::maratonContest) return beginning + "CONTEST LOG ?";
     if (band == entry::bandGHz) return beginning + "LOG GHz ?";
     // A number has room for its sign in front.
     return beginning + "LOG  " + base::toText(band) + std::string(stage) + " MHz ?";
@@ -139,7 +138,7 @@ void Ja()
 {
     base::ResumeNext go;
     go([] { Modul1.DbLog = storage::OpenDatabase(storage::logDatabasePath()); });
-    if (Modul1.ConcId == maraton)
+    if (Modul1.ConcId == runstate::maratonContest)
         emptyMaratonLog(go);
     else
         emptyBandLog(go);

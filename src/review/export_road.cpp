@@ -9,6 +9,7 @@
 #include "review/edi_header.h"
 #include "review/folders.h"
 #include "review/old_files.h"
+#include "review/output_modes.h"
 #include "review/own_call.h"
 #include "review/page.h"
 #include "review/reset.h"
@@ -18,6 +19,7 @@
 #include "review/sums.h"
 #include "review/views.h"
 #include "review/writers.h"
+#include "runstate/contest_codes.h"
 #include "runstate/modul1.h"
 #include "runstate/question.h"
 #include "runstate/setup_files.h"
@@ -27,14 +29,6 @@ namespace review {
 
 namespace {
 
-constexpr int maraton = 7;
-constexpr int toFolder = 10;
-constexpr int toArchive = 20;
-constexpr int toPrinter = 100;
-constexpr int toDrive = 1000;
-constexpr int asText = 10;
-constexpr int asEdi = 100;
-constexpr int leadsToFile = 10;
 constexpr int styleYesNoExclamation = 52;
 constexpr int styleOkCancelInformation = 65;
 constexpr double leftOnSmallScreen = 4000;
@@ -109,7 +103,7 @@ void countContest()
 {
     FrmAnzeigen.Frame4.Visible = false;
     FrmAnzeigen.LblPkt1.Visible = false;
-    if (Modul1.ConcId == maraton)
+    if (Modul1.ConcId == runstate::maratonContest)
         SummeYO2();
     else
         ClcSum();
@@ -151,7 +145,7 @@ void writeTextFiles()
         PLog432();
         PLog1296();
         if (Modul1.ConcId == 100) PLogGHz();
-    } else if (Modul1.ConcId == maraton) {
+    } else if (Modul1.ConcId == runstate::maratonContest) {
         PLogYO2();
     } else {
         return;  // the log of six metres goes to its organisers by EDI

@@ -32,8 +32,8 @@ std::vector<LogView> makeViews()
 {
     std::vector<LogView> views;
     for (const entry::LogTable& table : entry::logTables()) {
-        const auto* const place =
-            std::find_if(std::begin(places), std::end(places), [&](const Place& each) { return each.table == table.name; });
+        const auto* const place = std::find_if(std::begin(places), std::end(places),
+                                               [&](const Place& each) { return each.table == table.name; });
         views.push_back({place->data, place->grid, &table});
     }
     return views;

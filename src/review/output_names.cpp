@@ -6,6 +6,8 @@
 #include "entry/log_table.h"
 #include "platform/civil_time.h"
 #include "platform/machine.h"
+#include "review/output_modes.h"
+#include "runstate/contest_codes.h"
 #include "runstate/modul1.h"
 #include "screen/frm_anzeigen.h"
 
@@ -13,12 +15,6 @@ namespace review {
 
 namespace {
 
-constexpr int maraton = 7;
-constexpr int toFolder = 10;
-constexpr int toArchive = 20;
-constexpr int toDrive = 1000;
-constexpr int asEdi = 100;
-constexpr int asAdif = 60;
 constexpr const char* driveA = "A:";
 
 bool microwaves(std::int32_t band)
@@ -29,7 +25,7 @@ bool microwaves(std::int32_t band)
 std::string bandIn(const OutputName& name)
 {
     if (microwaves(name.band)) return "GHz";
-    return name.contest == maraton ? "Maraton" : base::toText(name.band);
+    return name.contest == runstate::maratonContest ? "Maraton" : base::toText(name.band);
 }
 
 std::string inLogFolder(const OutputName& name, const std::string& file)
@@ -45,7 +41,8 @@ std::string outputPath(const OutputName& name)
     if (name.outMode == toDrive) return driveA + base::trim(name.call) + bandIn(name) + extension;
     if (name.outMode == toFolder) return inLogFolder(name, bandIn(name)) + extension;
     if (name.outMode == toArchive)
-        return name.folder + "\\Arhiva\\" + base::trim(name.arhName) + (name.arhFormat == asAdif ? ".adi" : ".txt");
+        return name.folder + "\\Arhiva\\" + base::trim(name.arhName) +
+               (name.arhFormat == archiveAsAdif ? ".adi" : ".txt");
     return {};
 }
 

@@ -5,6 +5,7 @@
 #include <initializer_list>
 #include <span>
 
+#include "runstate/contest_codes.h"
 #include "runstate/modul1.h"
 #include "screen/frm_anzeigen.h"
 #include "screen/scale.h"
@@ -17,8 +18,6 @@ namespace {
 using Form = screen::FrmAnzeigenForm;
 using Button = screen::OptionButton Form::*;
 
-constexpr std::uint16_t maraton = 7;
-constexpr std::uint16_t international = 100;
 constexpr int helpContext = 900;
 
 /// Contests that offer the same logs, by what these are.
@@ -134,7 +133,7 @@ void bindDataControls()
 
 void takeContestPlaces()
 {
-    if (Modul1.ConcId != maraton) return;
+    if (Modul1.ConcId != runstate::maratonContest) return;
     FrmAnzeigen.takeMaratonPlaces();
     FrmAnzeigen.mnuFormEDI.Enabled = false;
 }
@@ -164,7 +163,7 @@ void showViewButtons()
 void showEmptyingButtons()
 {
     applyButtons(emptyingButtons);
-    if (Modul1.ConcId != international) return;
+    if (Modul1.ConcId != runstate::internationalContest) return;
     FrmAnzeigen.OpbLGHz.Visible = true;
     screen::setDesignHeight(FrmAnzeigen.Frame2, 3000);
 }
@@ -173,7 +172,7 @@ void showPrintButtons()
 {
     applyButtons(printButtons);
     if (isOneOf({1, 4, 6, 7, 101})) screen::setDesignHeight(FrmAnzeigen.Frame3, 1215);
-    if (Modul1.ConcId != international) return;
+    if (Modul1.ConcId != runstate::internationalContest) return;
     screen::setDesignHeight(FrmAnzeigen.Frame3, 2550);
     screen::setDesignWidth(FrmAnzeigen.Frame3, 1475);
 }

@@ -8,6 +8,7 @@
 #include "review/station_data.h"
 #include "review/sums.h"
 #include "review/writers.h"
+#include "runstate/contest_codes.h"
 #include "runstate/modul1.h"
 #include "runstate/question.h"
 #include "screen/grid_layout.h"
@@ -17,8 +18,6 @@ namespace review {
 
 namespace {
 
-constexpr int maraton = 7;
-constexpr int international = 100;
 constexpr int onPrinter = 100;
 
 /// A log that a button prints, with its sum and its writer.
@@ -82,10 +81,11 @@ void printMaratonLog()
     FrmAnzeigen.OpBD144a.Value = false;
 }
 
-/// Where the international contest has another log behind a button than the contests of bands and stages.
+/// Where the runstate::internationalContest contest has another log behind a button than the contests of bands and
+/// stages.
 void printByContest(const PrintedLog& ordinary, const PrintedLog& inInternational, screen::OptionButton& button)
 {
-    printLog(Modul1.ConcId == international ? inInternational : ordinary, button);
+    printLog(Modul1.ConcId == runstate::internationalContest ? inInternational : ordinary, button);
 }
 
 void askForStation(std::int32_t band)
@@ -109,7 +109,7 @@ void mnuLOGDrucken_Click()
 
 void OpBD144a_Click()
 {
-    if (Modul1.ConcId == maraton) return printMaratonLog();
+    if (Modul1.ConcId == runstate::maratonContest) return printMaratonLog();
     printLog(log144a, FrmAnzeigen.OpBD144a);
 }
 
@@ -130,7 +130,7 @@ void OpBD432b_Click()
 
 void OpBD1296a_Click()
 {
-    if (Modul1.ConcId == international) return askForStation(entry::bandGHz);
+    if (Modul1.ConcId == runstate::internationalContest) return askForStation(entry::bandGHz);
     printLog(log1296a, FrmAnzeigen.OpBD1296a);
 }
 

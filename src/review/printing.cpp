@@ -8,6 +8,7 @@
 #include "entry/log_table.h"
 #include "review/output_names.h"
 #include "review/paper.h"
+#include "runstate/contest_codes.h"
 #include "runstate/modul1.h"
 #include "screen/frm_anzeigen.h"
 
@@ -15,9 +16,6 @@ namespace review {
 
 namespace {
 
-constexpr int maraton = 7;
-constexpr int international = 100;
-constexpr int sixMetres = 101;
 constexpr int columnOfTitle = 5;
 constexpr int columnOfTotal = 60;
 
@@ -57,7 +55,7 @@ constexpr PrintedColumn maratonColumns[] = {
 
 std::span<const PrintedColumn> columns()
 {
-    if (Modul1.ConcId == maraton) return maratonColumns;
+    if (Modul1.ConcId == runstate::maratonContest) return maratonColumns;
     return bandColumns;
 }
 
@@ -97,10 +95,10 @@ std::string bandOfLog()
 {
     const std::string band = base::toText(Modul1.BandCur);
     switch (Modul1.ConcId) {
-        case maraton:
-        case sixMetres:
+        case runstate::maratonContest:
+        case runstate::sixMetresContest:
             return {};
-        case international:
+        case runstate::internationalContest:
             return Modul1.BandCur == entry::bandGHz ? " GHz." : band + " MHz.";
         default:
             return band + " MHz. ETAPA " + Modul1.Etapa;
@@ -109,13 +107,13 @@ std::string bandOfLog()
 
 std::string titleLine()
 {
-    const std::string behindCall = Modul1.ConcId == maraton ? "" : " ";
+    const std::string behindCall = Modul1.ConcId == runstate::maratonContest ? "" : " ";
     return titleOfLog() + yearOfClock() + " " + Modul1.MyCall + behindCall + bandOfLog();
 }
 
 void printWords()
 {
-    const bool small = Modul1.ConcId == maraton;
+    const bool small = Modul1.ConcId == runstate::maratonContest;
     takeFont(small ? 8 : 10);
     if (!small) paper().setBold(false);
     for (const PrintedColumn& each : columns())
@@ -126,8 +124,8 @@ void printWords()
 /// What the queue of the printer calls the log: band and stage.
 std::string nameOfLog()
 {
-    if (Modul1.ConcId == maraton) return "Maraton";
-    if (Modul1.ConcId == sixMetres) return "50";
+    if (Modul1.ConcId == runstate::maratonContest) return "Maraton";
+    if (Modul1.ConcId == runstate::sixMetresContest) return "50";
     if (Modul1.BandCur == entry::bandGHz) return "GHz";
     return base::toText(Modul1.BandCur) + Modul1.Etapa;
 }
@@ -146,7 +144,7 @@ void printLogHead()
     emptyLines(3);
     paper().print(columnOfTitle, titleLine());
     // On six metres the line of the title stays open: the empty line closes it.
-    if (Modul1.ConcId != sixMetres) paper().endLine();
+    if (Modul1.ConcId != runstate::sixMetresContest) paper().endLine();
     paper().endLine();
     printWords();
     paper().endLine();

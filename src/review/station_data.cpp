@@ -8,6 +8,7 @@
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "platform/keys.h"
+#include "review/output_modes.h"
 #include "runstate/modul1.h"
 #include "runstate/setup_files.h"
 #include "screen/frm_anzeigen.h"
@@ -20,8 +21,6 @@ namespace {
 using Form = screen::FrmAnzeigenForm;
 using State = runstate::Modul1State;
 
-constexpr int toPrinter = 100;
-constexpr int asText = 10;
 constexpr double leftOfButton = 4000;
 
 /// A box and the value that it shows. The number of operators is no text.

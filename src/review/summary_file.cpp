@@ -9,6 +9,7 @@
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "review/log_view.h"
+#include "review/output_modes.h"
 #include "review/output_names.h"
 #include "review/own_call.h"
 #include "review/sums.h"
@@ -20,8 +21,6 @@ namespace review {
 
 namespace {
 
-constexpr int toFolder = 10;
-constexpr int toDrive = 1000;
 constexpr int columnOfLabel = 10;
 constexpr int columnOfValue = 25;
 constexpr int columnOfCount = 24;

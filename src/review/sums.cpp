@@ -32,6 +32,7 @@ void sum(const LogView& log)
     std::int32_t& points = Modul1.*table.Pct;
     points = 0;
     Modul1.*table.Loc = 0;
+    Modul1.GridRebuild = 1000;
     storage::Database database;
     go([&] { database = storage::OpenDatabase(storage::logDatabasePath()); });
 
@@ -79,8 +80,7 @@ void sumBothStages(std::int32_t band)
 void showSum(std::int32_t points, long qsos)
 {
     FrmAnzeigen.Frame4.Visible = true;
-    for (screen::Label* label :
-         {&FrmAnzeigen.LblQSO, &FrmAnzeigen.LblQSO1, &FrmAnzeigen.LblPkt, &FrmAnzeigen.LblPkt1})
+    for (screen::Label* label : {&FrmAnzeigen.LblQSO, &FrmAnzeigen.LblQSO1, &FrmAnzeigen.LblPkt, &FrmAnzeigen.LblPkt1})
         label->Visible = true;
     FrmAnzeigen.LblPkt1.Caption = base::toText(points);
     FrmAnzeigen.LblQSO1.Caption = base::toText(qsos);

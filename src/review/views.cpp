@@ -8,6 +8,7 @@
 #include "review/page.h"
 #include "review/reset.h"
 #include "review/sums.h"
+#include "runstate/contest_codes.h"
 #include "runstate/modul1.h"
 #include "screen/grid_layout.h"
 #include "storage/log_statements.h"
@@ -16,8 +17,6 @@ namespace review {
 
 namespace {
 
-constexpr int maraton = 7;
-constexpr int international = 100;
 constexpr std::int32_t locatorMemory = 22;
 
 /// A log that a view button shows, and the sum that belongs to it.
@@ -56,10 +55,11 @@ void showMaratonLog(std::int32_t bandMHz)
     FrmAnzeigen.Frame5.Visible = false;
 }
 
-/// Where the international contest has another log behind a button than the contests of bands and stages.
+/// Where the runstate::internationalContest contest has another log behind a button than the contests of bands and
+/// stages.
 void showByContest(const View& ordinary, const View& inInternational)
 {
-    showLog(Modul1.ConcId == international ? inInternational : ordinary);
+    showLog(Modul1.ConcId == runstate::internationalContest ? inInternational : ordinary);
 }
 
 }  // namespace
@@ -80,20 +80,20 @@ void mnuLogAnzeigen_Click()
 
 void OpB144a_Click()
 {
-    if (Modul1.ConcId == maraton) return showMaratonLog(144);
+    if (Modul1.ConcId == runstate::maratonContest) return showMaratonLog(144);
     showLog(log144a);
 }
 
 void Opb144b_Click()
 {
-    if (Modul1.ConcId == maraton) return showMaratonLog(432);
+    if (Modul1.ConcId == runstate::maratonContest) return showMaratonLog(432);
     showByContest(log144b, log432a);
 }
 
 void OpB432a_Click()
 {
     showByContest(log432a, log1296a);
-    if (Modul1.ConcId == maraton) showMaratonLog(432);
+    if (Modul1.ConcId == runstate::maratonContest) showMaratonLog(432);
 }
 
 void OpB432b_Click()
@@ -104,7 +104,7 @@ void OpB432b_Click()
 void OpB1296a_Click()
 {
     showLog(log1296a);
-    if (Modul1.ConcId == maraton) showMaratonLog(1296);
+    if (Modul1.ConcId == runstate::maratonContest) showMaratonLog(1296);
 }
 
 void OpB1296b_Click()

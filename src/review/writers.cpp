@@ -14,9 +14,11 @@
 #include "review/edi_header.h"
 #include "review/log_lines.h"
 #include "review/log_view.h"
+#include "review/output_modes.h"
 #include "review/output_names.h"
 #include "review/own_call.h"
 #include "review/printing.h"
+#include "runstate/contest_codes.h"
 #include "runstate/modul1.h"
 #include "screen/grid_layout.h"
 #include "storage/log_statements.h"
@@ -25,16 +27,6 @@
 namespace review {
 
 namespace {
-
-constexpr int maraton = 7;
-constexpr int international = 100;
-constexpr int toFolder = 10;
-constexpr int toArchive = 20;
-constexpr int toPrinter = 100;
-constexpr int toDrive = 1000;
-constexpr int asText = 10;
-constexpr int asEdi = 100;
-constexpr int asAdif = 60;
 
 constexpr std::array oneStage = {100, 2, 3, 5, 8};
 constexpr std::array oneStageOn144 = {100, 2, 3, 4, 5, 8};
@@ -53,7 +45,7 @@ struct BandWriter {
     std::span<const int> withoutStageB;
     std::size_t blanksBehindBand;  ///< in the lines of stage B; fewer than the columns need, but on 144
     bool separatorBeforeStageTest;
-    int columnOfTotal;  ///< in the files of the international contest
+    int columnOfTotal;  ///< in the files of the runstate::internationalContest contest
     PrintedTotal printedA;
     PrintedTotal printedB;
     bool alwaysOpensArchive;  ///< the others go on in the archive that is open, but where a band is a report of its own
@@ -134,7 +126,7 @@ class RowWriter {
         for (std::int16_t row = 1; row <= count; ++row) {
             FrmAnzeigen.LogRec.Nr = base::toText(row);
             go_([&] { read(data_.Recordset); });
-            if (FrmAnzeigen.OutMode == toArchive && FrmAnzeigen.ArhFormat == asAdif)
+            if (FrmAnzeigen.OutMode == toArchive && FrmAnzeigen.ArhFormat == archiveAsAdif)
                 TransfADIF();
             else if (FrmAnzeigen.OutFormat == asEdi)
                 TransfEDI();
@@ -207,10 +199,10 @@ void readMaratonRow(storage::RecordSet& rows)
     record.NameE = rows.Field(12);
 }
 
-/// "TOTAL" of a band, in the files of the international contest.
+/// "TOTAL" of a band, in the files of the runstate::internationalContest contest.
 void printTotalOfBand(base::ResumeNext& go, int column, std::int32_t points)
 {
-    if (!textToPlace() || Modul1.ConcId != international) return;
+    if (!textToPlace() || Modul1.ConcId != runstate::internationalContest) return;
     // A printed number has room for its sign in front, and a blank behind.
     const std::string number = (points < 0 ? "" : " ") + base::toText(points) + " ";
     go([&] { printLine(base::padRight("TOTAL", static_cast<std::size_t>(column) - 1) + number); });
@@ -295,7 +287,7 @@ void printFileHead()
     NameConcurs();
     printLine(base::trim(Modul1.MyCall) + "  " + FrmAnzeigen.TxtTName.Text.get() + "  " + yearOfClock());
     printLine("");
-    printLine(textLogHead(Modul1.ConcId == maraton));
+    printLine(textLogHead(Modul1.ConcId == runstate::maratonContest));
 }
 
 }  // namespace
@@ -368,7 +360,7 @@ void LPrint0()
 
 void PCapTab()
 {
-    if (FrmAnzeigen.OutMode == toArchive && FrmAnzeigen.ArhFormat == asAdif)
+    if (FrmAnzeigen.OutMode == toArchive && FrmAnzeigen.ArhFormat == archiveAsAdif)
         return printLine(" LOG " + FrmAnzeigen.ArhName + " ADIF export <EOF> ");
     printFileHead();
 }

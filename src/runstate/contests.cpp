@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/machine.h"
+#include "runstate/contest_codes.h"
 #include "runstate/modul1.h"
 #include "screen/frm_qso.h"
 #include "screen/scale.h"
@@ -18,7 +19,6 @@ constexpr Change yes = Change::yes;
 
 constexpr std::uint16_t trofeulCarpati = 1;
 constexpr std::uint16_t oltenia144 = 4;
-constexpr std::uint16_t maraton = 7;
 constexpr std::uint16_t oltenia6m = 101;
 
 constexpr const char* pickBand = "SELECT MOD SI BANDA";
@@ -105,7 +105,7 @@ void nameOnlyBand(std::uint16_t contest)
 /// The Maraton contest exchanges names too: the own one on the set-up page, both on the entry form.
 void askForName(std::uint16_t contest)
 {
-    if (contest != maraton) return;
+    if (contest != maratonContest) return;
     FrmInit.TxtMyName.Visible = true;
     FrmInit.LblMyName.Visible = true;
     FrmInit.TxtMyName.SetFocus();
@@ -113,7 +113,7 @@ void askForName(std::uint16_t contest)
 
 void showNames(std::uint16_t contest)
 {
-    if (contest != maraton) return;
+    if (contest != maratonContest) return;
     FrmQSO.takeMaratonPlaces(Modul1.ScaleX >= 1);
     FrmQSO.TxtYourName.Visible = true;
     FrmQSO.TxtMyName.Visible = true;
@@ -124,7 +124,7 @@ void showNames(std::uint16_t contest)
 /// A new contest starts from zero; in the Carpathian trophy the number of the set-up file stays.
 void presetSerial(std::uint16_t contest)
 {
-    if (contest != trofeulCarpati && contest != maraton) FrmInit.TxtRpNr.Text = "000";
+    if (contest != trofeulCarpati && contest != maratonContest) FrmInit.TxtRpNr.Text = "000";
     FrmInit.TxtRpNr.Visible = false;
     FrmInit.LblRpNr.Visible = false;
     FrmInit.LblInscr.Visible = false;
@@ -134,7 +134,7 @@ void presetSerial(std::uint16_t contest)
 void leaveOperatingMode()
 {
     FrmInit.FraConcurs.Visible = false;
-    (Modul1.ConcId == maraton ? FrmInit.TxtMyName : FrmInit.TxtMyCall).SetFocus();
+    (Modul1.ConcId == maratonContest ? FrmInit.TxtMyName : FrmInit.TxtMyCall).SetFocus();
 }
 
 void choose(std::uint16_t id)

@@ -24,8 +24,8 @@ struct Modul1State {
     storage::TableDef TdefUus1296a;
     storage::TableDef TdefUus1296b;
     platform::ResultFile FileNo;  ///< the one file that results are written to
-    std::string AppPath;  ///< folder of the program: set-up files, help file
-    std::string AppDir;   ///< folder of the databases and the voice files
+    std::string AppPath;          ///< folder of the program: set-up files, help file
+    std::string AppDir;           ///< folder of the databases and the voice files
 
     // Contest and station.
     std::uint16_t ConcId = 0;      ///< contest: 0 to 8, 100, 101

@@ -13,6 +13,7 @@
 #include "geo/locator.h"
 #include "keyer/cw.h"
 #include "platform/machine.h"
+#include "runstate/contest_codes.h"
 #include "runstate/modul1.h"
 #include "runstate/question.h"
 #include "runstate/setup_files.h"
@@ -25,13 +26,11 @@ namespace runstate {
 
 namespace {
 
-constexpr std::uint16_t maraton = 7;
-
 /// False, with a message, when the Maraton contest lacks the operator's name.
 bool nameIsThere()
 {
     constexpr std::size_t shortestName = 2;
-    if (Modul1.ConcId != maraton || base::length(FrmInit.TxtMyName.Text) >= shortestName) return true;
+    if (Modul1.ConcId != maratonContest || base::length(FrmInit.TxtMyName.Text) >= shortestName) return true;
     platform::msgBox("COMPLECTATI BOXUL MY NAME");
     FrmInit.TxtMyName.SetFocus();
     return false;
@@ -112,7 +111,7 @@ void showSerial()
 {
     constexpr std::int16_t tooLongToPad = 1000;
     const bool wayBack = Modul1.ConcReturn == 100;
-    const bool keepsLabel = wayBack && Modul1.ConcId == maraton;
+    const bool keepsLabel = wayBack && Modul1.ConcId == maratonContest;
     if (!keepsLabel) FrmQSO.LblCod.Caption = base::toText(Modul1.SerNr);
     FrmQSO.txtRSTE2.Text = FrmQSO.LblCod.Caption;
     FrmQSO.txtRSTe3.Text = FrmQSO.LblMyQRA.Caption;
@@ -208,7 +207,7 @@ void Message10()
 {
     if (!reallyEnd()) return;
     screen::Form* form = screen::activeForm();
-    if (form == &FrmInit) Modul1.DbLog.Close();
+    if (form == &FrmInit || form == &FrmAnzeigen) Modul1.DbLog.Close();
     if (form != nullptr) form->Unload();
     throw base::ProgramEnd{};
 }
@@ -245,7 +244,7 @@ void mnuAnfang_Click()
     Modul1.ConcReturn = 100;
     const std::string name = FrmQSO.TxtMyName.Text;
     screen::load(FrmInit);
-    if (Modul1.ConcId == maraton) FrmInit.TxtMyName.Text = name;
+    if (Modul1.ConcId == maratonContest) FrmInit.TxtMyName.Text = name;
     FrmInit.Show();
     FrmQSO.Hide();
 }

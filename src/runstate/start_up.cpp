@@ -9,6 +9,7 @@
 #include "entry/flow.h"
 #include "entry/undo.h"
 #include "platform/machine.h"
+#include "runstate/contest_codes.h"
 #include "runstate/contests.h"
 #include "runstate/modul1.h"
 #include "runstate/setup_files.h"
@@ -21,8 +22,6 @@
 namespace runstate {
 
 namespace {
-
-constexpr std::uint16_t maraton = 7;
 
 constexpr const char* modesExplained[] = {
     "Programul permite doua moduri de operare. ",
@@ -122,7 +121,7 @@ void restoreContest()
         FrmQSO.CmdMixt.Visible = false;
         FrmQSO.LblMixt.Visible = false;
     }
-    if (Modul1.ConcId != maraton) {
+    if (Modul1.ConcId != maratonContest) {
         FrmInit.TxtRpNr.Text = serialShown();
         return;
     }
@@ -238,7 +237,7 @@ void FrmQSO_Load()
     FrmQSO.DBGrid9.Visible = false;
     FrmQSO.LblOffLine.Visible = Modul1.OfflineInput == 100;
     restorePage();
-    if (Modul1.ConcId == maraton) FrmQSO.TxtMyName.Text = Modul1.MyName;
+    if (Modul1.ConcId == maratonContest) FrmQSO.TxtMyName.Text = Modul1.MyName;
     go(ReadTextCw);
     showMessagesOnEntryForm();
     if (namedBand()) entry::Init();

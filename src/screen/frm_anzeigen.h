@@ -272,22 +272,22 @@ struct FrmAnzeigenForm : Form {
     std::uint16_t ArhFormat = 0;  ///< format of the archive: 50 text, 60 ADIF
     std::uint16_t ArhSelExt = 0;  ///< extension seen in TxtNameDat: 50 text, 60 ADIF
     std::uint16_t EnterFlag = 0;  ///< CmdGata leads to a file with 10, to the printed summary with 0
-    std::uint16_t EnterAgain = 0;   ///< 100 after a No to the question whether the input is finished
+    std::uint16_t EnterAgain = 0;     ///< 100 after a No to the question whether the input is finished
     std::uint16_t StationFilled = 0;  ///< 100: the boxes of the station show its data
-    std::uint16_t InsertAsked = 0;  ///< 10 after a No to the question of inserting; nothing asks it
-    std::string BandText;           ///< band of the log in hand as text; "0" once it was emptied
-    std::string OutFile;            ///< path of the file to write
-    std::string LineBuf;            ///< the line being built
-    std::string ArhName;            ///< name of the archive without extension, one key behind TxtNameDat
-    std::string VerifPath;          ///< file of an earlier run to delete
-    std::string DirListPath;        ///< folder whose folders DirList shows
-    std::string FilListPath;        ///< folder whose files FilList shows
-    std::int16_t RecCount = 0;      ///< rows of the table being read
-    std::int16_t SumQso = 0;        ///< QSOs of the band in both stages
-    std::int32_t SumPct = 0;        ///< points of the band in both stages
-    LogRecord LogRec;               ///< the row being written
-    EdiHeader EdiHdr;               ///< the EDI pages as they were taken over
-    std::int32_t BandFound = 0;     ///< BandCur and Etapa as they stood at load: they go back to the first page
+    std::uint16_t InsertAsked = 0;    ///< 10 after a No to the question of inserting; nothing asks it
+    std::string BandText;             ///< band of the log in hand as text; "0" once it was emptied
+    std::string OutFile;              ///< path of the file to write
+    std::string LineBuf;              ///< the line being built
+    std::string ArhName;              ///< name of the archive without extension, one key behind TxtNameDat
+    std::string VerifPath;            ///< file of an earlier run to delete
+    std::string DirListPath;          ///< folder whose folders DirList shows
+    std::string FilListPath;          ///< folder whose files FilList shows
+    std::int16_t RecCount = 0;        ///< rows of the table being read
+    std::int16_t SumQso = 0;          ///< QSOs of the band in both stages
+    std::int32_t SumPct = 0;          ///< points of the band in both stages
+    LogRecord LogRec;                 ///< the row being written
+    EdiHeader EdiHdr;                 ///< the EDI pages as they were taken over
+    std::int32_t BandFound = 0;       ///< BandCur and Etapa as they stood at load: they go back to the first page
     std::string EtapaFound;
 
  private:

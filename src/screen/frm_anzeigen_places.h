@@ -1,8 +1,8 @@
 // Where the jobs of the review form stand on the design screen.
 //
-// The log in view fills the left side, down to the foot of the page while it is only looked through. The frames of the
-// jobs stand in two columns beside it, the station data and the button that ends an input in two strips at the foot.
-// Jobs that are never in view together share a place.
+// The log in view fills the left side, down to the foot of the page while it is looked through or emptied. The frames
+// of the jobs stand in two columns beside it, the station data and the button that ends an input in two strips at the
+// foot. Jobs that are never in view together share a place.
 #pragma once
 
 #include "screen/control.h"

@@ -202,26 +202,26 @@ struct FrmQSOForm : Form {
     std::array<std::string, 20> UndoRec;  ///< the screen as it was before an abort
 
     // Keying. Times are those of the message or the character being sent.
-    float Wpm = 30;              ///< speed, words a minute
-    std::string TxtCw;           ///< the message, with its placeholders filled
-    std::int16_t MorseCnt = 0;   ///< rows of the table of Morse codes
-    std::int16_t TickBase = 0;   ///< units of a second of which one is a dot at one word a minute
-    float CharUnit = 0;          ///< unit of the spaces, in ticks of 1/18.2 second
-    float ElemUnit = 0;          ///< unit of dots and dashes, in the same
-    float KeyOnMs = 0;           ///< of the current element
-    float KeyOffMs = 0;          ///< of the gap behind it
-    float ElemLen = 0;           ///< 1 for a dot, 3 for a dash
-    float TabIdx = 0;            ///< running row of the table, from 1
-    std::string SymCur;          ///< the character being sent
-    std::int16_t CharIdx = 0;    ///< its place in the message, from 1
-    float SecNow = 0;            ///< seconds of the day
-    float SecStart = 0;          ///< the same, when the message began
+    float Wpm = 30;                            ///< speed, words a minute
+    std::string TxtCw;                         ///< the message, with its placeholders filled
+    std::int16_t MorseCnt = 0;                 ///< rows of the table of Morse codes
+    std::int16_t TickBase = 0;                 ///< units of a second of which one is a dot at one word a minute
+    float CharUnit = 0;                        ///< unit of the spaces, in ticks of 1/18.2 second
+    float ElemUnit = 0;                        ///< unit of dots and dashes, in the same
+    float KeyOnMs = 0;                         ///< of the current element
+    float KeyOffMs = 0;                        ///< of the gap behind it
+    float ElemLen = 0;                         ///< 1 for a dot, 3 for a dash
+    float TabIdx = 0;                          ///< running row of the table, from 1
+    std::string SymCur;                        ///< the character being sent
+    std::int16_t CharIdx = 0;                  ///< its place in the message, from 1
+    float SecNow = 0;                          ///< seconds of the day
+    float SecStart = 0;                        ///< the same, when the message began
     platform::MonotonicTime keyingDeadline{};  ///< when the line is due to change next
-    std::string WavPath;         ///< the sound file to play
-    std::int16_t CwRepStop = 0;           ///< 100 would end automatic calling
-    std::int16_t CwRepBreak = 0;          ///< 100: a key asks automatic calling to end
-    std::int16_t CwF1Armed = 0;           ///< 100: F1 came in CW
-    std::int16_t SsbRepStop = 0;          ///< the same three for voice
+    std::string WavPath;                       ///< the sound file to play
+    std::int16_t CwRepStop = 0;                ///< 100 would end automatic calling
+    std::int16_t CwRepBreak = 0;               ///< 100: a key asks automatic calling to end
+    std::int16_t CwF1Armed = 0;                ///< 100: F1 came in CW
+    std::int16_t SsbRepStop = 0;               ///< the same three for voice
     std::int16_t SsbRepBreak = 0;
     std::int16_t SsbF1Armed = 0;
 

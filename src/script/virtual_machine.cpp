@@ -18,8 +18,9 @@ fs::path bareAbsolute(const fs::path& folder)
 }  // namespace
 
 VirtualMachine::VirtualMachine(const fs::path& folder)
-    : installation_(platform::pathText(bareAbsolute(folder))), drivers_{boxes, notices_, clock, keyboard, clipboard, sound_, serialPort,
-printer_, volumes_, help_, screen_, installation_}
+    : installation_(platform::pathText(bareAbsolute(folder))), drivers_{boxes,     notices_, clock,      keyboard,
+                                                                        clipboard, sound_,   serialPort, printer_,
+                                                                        volumes_,  help_,    screen_,    installation_}
 {
 }
 

@@ -47,6 +47,21 @@ TEST(GridColumnsTest, ColumnsOfNoWidthAreNotSeen)
     EXPECT_EQ(layout.fontPixels, 11);
 }
 
+TEST(GridColumnsTest, ColumnsGrowWithTheWindowAsFarAsThereIsRoom)
+{
+    test_page::Page page;
+    const app::ControlPicture& grid = page.addGrid({0, 0, 14400, 3000}, 3, false, false);
+    desktop::Fonts fonts;
+    // The form of a screen of 1600 by 1200 keeps the widths of one of 800.
+    const desktop::FormScale scale(24000, 18000, {1600, 1200});
+    const auto widthIn = [&](double room) {
+        return desktop::layOutColumns(grid, scale, fonts, room, 11).columns[0].width;
+    };
+    EXPECT_EQ(widthIn(400), 160) << "1200 twips on a screen twice as wide";
+    EXPECT_EQ(widthIn(120), 120);
+    EXPECT_EQ(widthIn(70), 70);
+}
+
 TEST(GridColumnsTest, TheFontGetsSmallerWhenThereIsNoRoomAtAll)
 {
     test_page::Page page;
