@@ -29,6 +29,8 @@ echo "== sleeping to a deadline (ms late)"
 ./deadline_bench
 echo "== keying (ms off)"
 ./keying_bench
+echo "== scrolling through big logs in the window (ms)"
+./scroll_bench
 echo "== memory (MB)"
 ./memory_bench empty
 ./memory_bench kelvo

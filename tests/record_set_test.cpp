@@ -777,6 +777,10 @@ TEST_F(RecordSetCost, duplicateAndBandOfTheMaratonLog)
         RecordSet band = database.OpenRecordset("SELECT * FROM UusLGYO2 WHERE Bnd='432' ORDER BY ID ");
         band.MoveLast();
         EXPECT_EQ(band.lastRows(20).size(), 1U);
+        // Nothing stands behind a window at an end: that is not found out row by row.
+        band = database.OpenRecordset("SELECT * FROM UusLGYO2 WHERE Bnd='144' ORDER BY Bnd , ID; ");
+        EXPECT_TRUE(band.rowsAfter(band.lastRows(5).back(), 1).empty());
+        EXPECT_TRUE(band.rowsBefore(band.firstRows(5).front(), 1).empty());
         return disk.reads() - before;
     };
     EXPECT_LE(reads(30000), reads(300) + 40);

@@ -92,10 +92,8 @@ double lastShare(const storage::RecordSet& set, std::size_t capacity)
 
 std::vector<storage::Row> rowsAtPlace(const storage::RecordSet& set, double place, std::size_t capacity)
 {
-    if (place <= 0) return set.firstRows(capacity);
     if (place >= 1) return set.lastRows(capacity);
-    std::vector<storage::Row> rows = set.rowsAtShare(place * lastShare(set, capacity), capacity);
-    return rows.size() < capacity ? set.lastRows(capacity) : rows;
+    return set.rowsAtShare(place * lastShare(set, capacity), capacity);
 }
 
 /// Only between the ends it has to be found out.

@@ -94,7 +94,9 @@ void sendInVoice(int keyCode)
     if (FrmQSO.SsbF1Armed != 100) return;
     FrmQSO.SsbRepBreak = 0;
     FrmQSO.SsbF1Armed = 0;
+    const std::int32_t runs = Modul1.callingRuns;
     playMessage(callingMessage);
+    if (Modul1.callingRuns != runs) return;
     if (Modul1.SsbRptFlag == 100 && FrmQSO.SsbRepStop == 0) PauzaSSB();
 }
 

@@ -44,7 +44,8 @@ ResultFile::~ResultFile()
 
 void ResultFile::open(std::string_view designPath)
 {
-    close();
+    // What becomes of the file before is no matter of this one.
+    base::quietly([this] { close(); });
     place_ = resolve(designPath);
     beside_ = place_;
     beside_ += ".new";

@@ -28,6 +28,9 @@ class ResultFile {
     /// happens when no file is open.
     void print(std::string_view line);
 
+    /// Throws the file away: what was to be written did not come together.
+    void abandon() noexcept { discard(); }
+
     /// Puts the file in its place, in place of an older one. Errors as for print(). Nothing happens when no file is
     /// open.
     void close();

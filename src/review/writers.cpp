@@ -4,6 +4,7 @@
 #include <array>
 #include <span>
 #include <string>
+#include <utility>
 
 #include "base/number.h"
 #include "base/runtime_error.h"
@@ -86,11 +87,12 @@ bool isIn(std::span<const int> contests)
     return std::find(contests.begin(), contests.end(), Modul1.ConcId) != contests.end();
 }
 
-/// A name with a separator would lead out of the folder, one with a colon into a drive: such an archive is not written.
+/// A name with a separator would lead out of the folder, one with a colon into a drive, and an archive that has nothing
+/// but its extension would hide itself: such an archive is not written.
 void requireArchiveName()
 {
     const std::string name = base::trim(FrmAnzeigen.ArhName);
-    if (platform::isFileName(name + ".txt")) return;
+    if (!name.empty() && platform::isFileName(name + ".txt")) return;
     throw base::RuntimeError(base::existsOrNoAccess, name + " is no name of a file");
 }
 
@@ -118,21 +120,22 @@ class RowWriter {
     {
     }
 
-    /// Returns the number of rows.
+    /// Returns the number of rows. A log that cannot be read to its end gives no file: one with rows missing would look
+    /// whole.
     template <typename Read, typename MakeLine>
     std::int16_t write(const std::string& source, Read&& read, MakeLine&& line)
     {
         const std::int16_t count = openRows(source);
-        for (std::int16_t row = 1; row <= count; ++row) {
+        for (int row = 1; row <= count; ++row) {
             FrmAnzeigen.LogRec.Nr = base::toText(row);
-            go_([&] { read(data_.Recordset); });
+            if (!reads([&] { read(data_.Recordset); })) break;
             if (FrmAnzeigen.OutMode == toArchive && FrmAnzeigen.ArhFormat == archiveAsAdif)
                 TransfADIF();
             else if (FrmAnzeigen.OutFormat == asEdi)
                 TransfEDI();
             else
                 FrmAnzeigen.LineBuf = line(FrmAnzeigen.LogRec);
-            go_([&] { data_.Recordset.MoveNext(); });
+            if (!reads([&] { data_.Recordset.MoveNext(); })) break;
             go_(LPrint);
             if (toPaper()) countPrintedRow();
         }
@@ -140,16 +143,26 @@ class RowWriter {
     }
 
  private:
+    /// False, and the file thrown away, when the log could not be read. An empty table is no failure.
+    template <typename Step>
+    bool reads(Step&& step)
+    {
+        const int error = go_(std::forward<Step>(step));
+        if (error == 0 || error == base::noCurrentRecord) return true;
+        Modul1.FileNo.abandon();
+        return false;
+    }
+
     std::int16_t openRows(const std::string& source)
     {
         data_.RecordSource = source;
         Modul1.GridRebuild = 1000;
-        go_([&] { data_.Refresh(); });
-        go_(layOut_);
-        go_([&] { data_.Recordset.MoveLast(); });
-        go_([&] { data_.Recordset.MoveFirst(); });
         std::int16_t count = 0;
-        go_([&] { count = base::toInt16(static_cast<long long>(data_.Recordset.RecordCount())); });
+        if (!reads([&] { data_.Refresh(); })) return count;
+        go_(layOut_);
+        reads([&] { data_.Recordset.MoveLast(); });
+        reads([&] { data_.Recordset.MoveFirst(); });
+        reads([&] { count = base::toInt16(static_cast<long long>(data_.Recordset.RecordCount())); });
         return count;
     }
 
@@ -165,7 +178,7 @@ class RowWriter {
     base::ResumeNext& go_;
     screen::DataControl& data_;
     void (*layOut_)();
-    std::int16_t PageLine_ = 1;
+    int PageLine_ = 1;
 };
 
 void readBandRow(storage::RecordSet& rows)

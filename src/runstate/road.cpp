@@ -94,10 +94,19 @@ void writeSetUp(void (*write)())
     base::quietly(write);
 }
 
+/// On the way back the Maraton contest goes on with the code that the label shows.
+bool codeStaysInLabel()
+{
+    return Modul1.ConcReturn == 100 && Modul1.ConcId == maratonContest;
+}
+
 void showEntryForm()
 {
     if (FrmQSO.life != screen::FormLife::loaded) {
+        const std::string lastCode = FrmQSO.LblCod.Caption;
         screen::load(FrmQSO);
+        // Nothing reads the Maraton codes back from the log: a form that was given up has the last one still.
+        if (codeStaysInLabel()) FrmQSO.LblCod.Caption = lastCode;
         colourRepeatFields();
     }
     FrmQSO.Show();
@@ -111,11 +120,10 @@ void showSerial()
 {
     constexpr std::int16_t tooLongToPad = 1000;
     const bool wayBack = Modul1.ConcReturn == 100;
-    const bool keepsLabel = wayBack && Modul1.ConcId == maratonContest;
-    if (!keepsLabel) FrmQSO.LblCod.Caption = base::toText(Modul1.SerNr);
+    if (!codeStaysInLabel()) FrmQSO.LblCod.Caption = base::toText(Modul1.SerNr);
     FrmQSO.txtRSTE2.Text = FrmQSO.LblCod.Caption;
     FrmQSO.txtRSTe3.Text = FrmQSO.LblMyQRA.Caption;
-    if (Modul1.SerNr >= tooLongToPad || keepsLabel) return;
+    if (Modul1.SerNr >= tooLongToPad || codeStaysInLabel()) return;
 
     const std::string padded = base::paddedCode(Modul1.SerNr);
     const int contest = Modul1.ConcId;

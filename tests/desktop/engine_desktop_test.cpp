@@ -1,6 +1,7 @@
 // The rules of the event engine in the desktop program, and those that only a window can break.
 #include "desktop_face.h"
 #include "moc_desktop_face.cpp"
+#include "storage/open_databases.h"
 #include "support/engine_rules.h"
 
 namespace test {
@@ -11,6 +12,48 @@ namespace {
 
 class WindowRules : public Desk<DesktopFace> {
  protected:
+    /// The review form with 3,000 rows in view, on the last one.
+    void startWithLongLog()
+    {
+        start();
+        click(FrmInit.OpBFloareademina);
+        click(FrmInit.OpbTest);
+        click(FrmInit.mnuLOG);
+        inProgram([] {
+            storage::OpenDatabase(storage::logDatabasePath())
+                .Execute(
+                    "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 3000) "
+                    "INSERT INTO Uus144a (Callsign) SELECT 'YO' || i FROM n");
+        });
+        click(FrmAnzeigen.mnuLogAnzeigen);
+        click(FrmAnzeigen.OpB144a);
+        ASSERT_TRUE(FrmAnzeigen.DBGrid1.seen());
+    }
+
+    const app::ControlPicture& pictureOf(const screen::Control& control)
+    {
+        const auto& controls = program().picture().controls;
+        return *std::find_if(controls.begin(), controls.end(),
+                             [&](const app::ControlPicture& picture) { return picture.control == &control; });
+    }
+
+    QRect thumbOf(const screen::Grid& grid)
+    {
+        const app::Picture& picture = program().picture();
+        const desktop::FormScale scale(picture.width, picture.height, program().form().size());
+        return desktop::layOutGrid(pictureOf(grid), scale).scrollBar.thumb();
+    }
+
+    std::int64_t firstRowOf(const screen::Grid& grid) { return pictureOf(grid).grid->rows->rows.front().key; }
+
+    /// The pointer moves with its main button held.
+    void dragTo(QPoint at)
+    {
+        QMouseEvent moved(QEvent::MouseMove, at, QPointF(), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&program().form(), &moved);
+        ASSERT_TRUE(program().waitUntilIdle());
+    }
+
     /// The set-up page with a box open that the letter a raised.
     void startWithBox()
     {
@@ -133,6 +176,28 @@ TEST_F(WindowRules, AProgramThatIsTakenAwayUnderAHandlerThatServesIsGone)
     });
     const app::KeyWentDown key{{.code = platform::keyF2}};
     program().post(key);
+}
+
+TEST_F(WindowRules, TheRowsOfALogFollowItsThumb)
+{
+    startWithLongLog();
+    const screen::Grid& grid = FrmAnzeigen.DBGrid1;
+    const std::int64_t lastWindow = firstRowOf(grid);
+    const QRect atFoot = thumbOf(grid);
+    ASSERT_GT(lastWindow, 2900);
+    QTest::mousePress(&program().form(), Qt::LeftButton, Qt::NoModifier, atFoot.center());
+    std::int64_t before = lastWindow;
+    for (int up = 20; up <= 100; up += 20) {
+        dragTo(atFoot.center() - QPoint(0, up));
+        EXPECT_LT(firstRowOf(grid), before) << up;
+        EXPECT_EQ(thumbOf(grid), atFoot.translated(0, -up)) << "the rows stand where the thumb is";
+        before = firstRowOf(grid);
+    }
+    QTest::mouseRelease(&program().form(), Qt::LeftButton, Qt::NoModifier, atFoot.center() - QPoint(0, 100));
+    ASSERT_TRUE(program().waitUntilIdle());
+    EXPECT_EQ(firstRowOf(grid), before) << "a release leaves them there";
+    EXPECT_EQ(grid.data->Recordset.Field("ID"), "3000") << "the current row is where it was";
+    EXPECT_FALSE(FrmAnzeigen.Frame5.Visible) << "no row was touched";
 }
 
 TEST_F(WindowRules, AMenuThatChangesLeavesNothingBehind)
