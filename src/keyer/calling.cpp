@@ -5,6 +5,7 @@
 
 #include "base/number.h"
 #include "keyer/messages.h"
+#include "keyer/stop_keys.h"
 #include "keyer/voice.h"
 #include "platform/machine.h"
 #include "runstate/modul1.h"
@@ -46,15 +47,6 @@ constexpr Calling inVoice = {&screen::FrmQSOForm::TxtPauseSSB,
 double secondsOfDay()
 {
     return std::chrono::duration<double>(platform::machine().clock.timeOfDay()).count();
-}
-
-/// Both keys are looked at, so that a press of either is used up.
-bool stopKeyPressed()
-{
-    platform::KeyState& keys = platform::machine().keyState;
-    const bool end = keys.pressed(platform::PolledKey::end);
-    const bool escape = keys.pressed(platform::PolledKey::escape);
-    return end || escape;
 }
 
 bool broken(const Calling& calling, std::int32_t run)

@@ -8,6 +8,7 @@
 #include "base/text.h"
 #include "keyer/morse.h"
 #include "keyer/port.h"
+#include "keyer/stop_keys.h"
 #include "platform/machine.h"
 #include "runstate/modul1.h"
 #include "screen/frm_qso.h"
@@ -49,12 +50,10 @@ void startCharacter()
     if (now > FrmQSO.keyingDeadline + latenessOfClock) FrmQSO.keyingDeadline = now;
 }
 
-bool stopKeyPressed()
+bool stopAsked()
 {
-    platform::KeyState& keys = platform::machine().keyState;
-    const bool end = keys.pressed(platform::PolledKey::end);
-    const bool escape = keys.pressed(platform::PolledKey::escape);
-    return (end || escape) && Modul1.ModeCur == "CW" && Modul1.CwAllowed == 100;
+    const bool pressed = stopKeyPressed();
+    return pressed && Modul1.ModeCur == "CW" && Modul1.CwAllowed == 100;
 }
 
 /// Puts the walk behind its hundredth character: a longer message goes on there.
@@ -151,7 +150,7 @@ void MakeSound()
     const std::string_view row = MorseTab.at(static_cast<std::size_t>(FrmQSO.TabIdx) - 1);
     startCharacter();
     for (const char element : row.substr(1)) {
-        if (stopKeyPressed()) return stopMessage();
+        if (stopAsked()) return stopMessage();
         FrmQSO.ElemLen = element == '-' ? 3 : 1;
         FrmQSO.KeyOnMs = static_cast<float>(elementTime(FrmQSO.ElemUnit, FrmQSO.ElemLen));
         FrmQSO.KeyOffMs = static_cast<float>(elementTime(FrmQSO.ElemUnit, 1));

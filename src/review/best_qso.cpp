@@ -6,6 +6,7 @@
 #include "base/runtime_error.h"
 #include "review/log_view.h"
 #include "review/output_modes.h"
+#include "review/row_record.h"
 #include "runstate/modul1.h"
 #include "runstate/question.h"
 #include "storage/log_statements.h"
@@ -22,20 +23,6 @@ struct Best {
 };
 
 enum class FirstDay { taken, left };
-
-void readRow(storage::RecordSet& rows)
-{
-    screen::LogRecord& record = FrmAnzeigen.LogRec;
-    record.Callsign = rows.Field(1);
-    record.Data = rows.Field(2);
-    record.UTC = rows.Field(3);
-    record.Sent = rows.Field(4);
-    record.Rcvd = rows.Field(5);
-    record.Mode = rows.Field(6);
-    record.Freq = rows.Field(7);
-    record.QRALoc = rows.Field(8);
-    record.Pct = rows.Field(9);
-}
 
 void consider(Best& best)
 {
@@ -72,7 +59,7 @@ void walk(base::ResumeNext& go, const LogView& log, FirstDay firstDay, Best& bes
     countRows(go, log);
     for (std::int16_t row = 0; row < FrmAnzeigen.RecCount; ++row) {
         FrmAnzeigen.LogRec.Nr = base::toText(row + 1);
-        go([&] { readRow(rows); });
+        go([&] { readBandRow(rows); });
         if (row == 0 && firstDay == FirstDay::taken) FrmAnzeigen.TxtTDate1.Text = FrmAnzeigen.LogRec.Data.get();
         if (row == FrmAnzeigen.RecCount - 1) FrmAnzeigen.TxtTDate2.Text = FrmAnzeigen.LogRec.Data.get();
         consider(best);

@@ -19,6 +19,7 @@
 #include "review/output_names.h"
 #include "review/own_call.h"
 #include "review/printing.h"
+#include "review/row_record.h"
 #include "runstate/contest_codes.h"
 #include "runstate/modul1.h"
 #include "screen/grid_layout.h"
@@ -180,37 +181,6 @@ class RowWriter {
     void (*layOut_)();
     int PageLine_ = 1;
 };
-
-void readBandRow(storage::RecordSet& rows)
-{
-    screen::LogRecord& record = FrmAnzeigen.LogRec;
-    record.Callsign = rows.Field(1);
-    record.Data = rows.Field(2);
-    record.UTC = rows.Field(3);
-    record.Sent = rows.Field(4);
-    record.Rcvd = rows.Field(5);
-    record.Mode = rows.Field(6);
-    record.Freq = rows.Field(7);
-    record.QRALoc = rows.Field(8);
-    record.Pct = rows.Field(9);
-}
-
-void readMaratonRow(storage::RecordSet& rows)
-{
-    screen::LogRecord& record = FrmAnzeigen.LogRec;
-    record.Callsign = rows.Field(1);
-    record.Data = rows.Field(2);
-    record.UTC = rows.Field(3);
-    record.Sent = rows.Field(4);
-    record.Rcvd = rows.Field(5);
-    record.Mode = rows.Field(6);
-    record.Freq = rows.Field(7);
-    record.QRALoc = rows.Field(8);
-    record.NameR = rows.Field(9);
-    record.Pct = rows.Field(10);
-    record.QRALcE = rows.Field(11);
-    record.NameE = rows.Field(12);
-}
 
 /// "TOTAL" of a band, in the files of the runstate::internationalContest contest.
 void printTotalOfBand(base::ResumeNext& go, int column, std::int32_t points)

@@ -17,6 +17,7 @@
 #include "runstate/modul1.h"
 #include "runstate/question.h"
 #include "runstate/setup_files.h"
+#include "runstate/start_up.h"
 #include "screen/frm_anzeigen.h"
 #include "screen/frm_init.h"
 #include "screen/frm_qso.h"
@@ -60,17 +61,6 @@ void takeMessages()
     Modul1.TxtCwF6 = FrmInit.TxtF6.Text;
     Modul1.TxtCwF7 = FrmInit.TxtF7.Text;
     Modul1.CwPort = screen::countIn(FrmInit.TxtCP);
-}
-
-void handMessagesOver()
-{
-    FrmQSO.TxtF1.Text = Modul1.TxtCwF1;
-    FrmQSO.TxtF2.Text = Modul1.TxtCwF2;
-    FrmQSO.TxtF3.Text = Modul1.TxtCwF3;
-    FrmQSO.TxtF4.Text = Modul1.TxtCwF4;
-    FrmQSO.TxtF5.Text = Modul1.TxtCwF5;
-    FrmQSO.TxtF6.Text = Modul1.TxtCwF6;
-    FrmQSO.TxtF7.Text = Modul1.TxtCwF7;
 }
 
 void takeStation()
@@ -187,7 +177,7 @@ void QSOFahr()
     takeMessages();
     writeSetUp(WriteTextCw);
     if (Modul1.ConcReturn == 0) {
-        handMessagesOver();
+        showMessagesOnEntryForm();
         if (FrmQSO.LblAnunt.Visible) entry::NoEnabl();
     }
     takeStation();

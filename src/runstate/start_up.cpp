@@ -161,17 +161,6 @@ void bindDataControls()
         log->DatabaseName = storage::logDatabasePath();
 }
 
-void showMessagesOnEntryForm()
-{
-    FrmQSO.TxtF1.Text = Modul1.TxtCwF1;
-    FrmQSO.TxtF2.Text = Modul1.TxtCwF2;
-    FrmQSO.TxtF3.Text = Modul1.TxtCwF3;
-    FrmQSO.TxtF4.Text = Modul1.TxtCwF4;
-    FrmQSO.TxtF5.Text = Modul1.TxtCwF5;
-    FrmQSO.TxtF6.Text = Modul1.TxtCwF6;
-    FrmQSO.TxtF7.Text = Modul1.TxtCwF7;
-}
-
 void lightModeLamp()
 {
     if (Modul1.ModeCur == "CW") FrmQSO.LblCW.BackColor = screen::lampOn;
@@ -184,6 +173,17 @@ bool namedBand()
 }
 
 }  // namespace
+
+void showMessagesOnEntryForm()
+{
+    FrmQSO.TxtF1.Text = Modul1.TxtCwF1;
+    FrmQSO.TxtF2.Text = Modul1.TxtCwF2;
+    FrmQSO.TxtF3.Text = Modul1.TxtCwF3;
+    FrmQSO.TxtF4.Text = Modul1.TxtCwF4;
+    FrmQSO.TxtF5.Text = Modul1.TxtCwF5;
+    FrmQSO.TxtF6.Text = Modul1.TxtCwF6;
+    FrmQSO.TxtF7.Text = Modul1.TxtCwF7;
+}
 
 void FrmInit_Load()
 {

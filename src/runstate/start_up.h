@@ -11,6 +11,9 @@ namespace runstate {
 void FrmInit_Load();
 void FrmQSO_Load();
 
+/// The seven message texts of the run state into the fields of the entry form.
+void showMessagesOnEntryForm();
+
 /// Folder of the databases for the folder of the program: without the bracketed tag that may stand in it. Everything
 /// between the drive and the last "]" goes.
 std::string appDirOf(std::string_view appPath);
