@@ -52,39 +52,43 @@ bool isRemovable(const QStorageInfo& volume)
 #endif
 
 /// Those that keep files: not what the system holds in its memory.
-QList<QStorageInfo> volumes()
+std::vector<Volume> mountedVolumes()
 {
-    QList<QStorageInfo> ready;
-    for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
-        const bool inMemory = volume.fileSystemType().endsWith("tmpfs");
-        if (volume.isValid() && volume.isReady() && !volume.isReadOnly() && !inMemory) ready.append(volume);
+    std::vector<Volume> volumes;
+    for (const QStorageInfo& each : QStorageInfo::mountedVolumes()) {
+        const bool inMemory = each.fileSystemType().endsWith("tmpfs");
+        if (!each.isValid() || !each.isReady() || each.isReadOnly() || inMemory) continue;
+        volumes.push_back({folderOf(each), each.isRoot(), isRemovable(each)});
     }
-    return ready;
-}
-
-/// A system that runs from a stick does not offer itself.
-bool canBeDriveA(const QStorageInfo& volume)
-{
-    return !volume.isRoot() && isRemovable(volume);
+    return volumes;
 }
 
 }  // namespace
 
+std::optional<std::string> driveAAmong(const std::vector<Volume>& volumes)
+{
+    const auto found = std::find_if(volumes.begin(), volumes.end(),
+                                    [](const Volume& volume) { return volume.removable && !volume.ofSystem; });
+    if (found == volumes.end()) return std::nullopt;
+    return found->folder;
+}
+
+std::vector<std::string> namesOf(const std::vector<Volume>& volumes, const std::string& own)
+{
+    std::vector<std::string> names{own};
+    for (const Volume& volume : volumes)
+        if (volume.folder != own) names.push_back(volume.folder);
+    return names;
+}
+
 std::optional<std::string> MountedVolumes::driveA() const
 {
-    const QList<QStorageInfo> all = volumes();
-    const auto found = std::find_if(all.begin(), all.end(), canBeDriveA);
-    if (found == all.end()) return std::nullopt;
-    return folderOf(*found);
+    return driveAAmong(mountedVolumes());
 }
 
 std::vector<std::string> MountedVolumes::names() const
 {
-    const std::string own = folderOf(QStorageInfo(QString::fromStdString(programFolder_)));
-    std::vector<std::string> names{own};
-    for (const QStorageInfo& volume : volumes())
-        if (folderOf(volume) != own) names.push_back(folderOf(volume));
-    return names;
+    return namesOf(mountedVolumes(), folderOf(QStorageInfo(QString::fromStdString(programFolder_))));
 }
 
 }  // namespace desktop

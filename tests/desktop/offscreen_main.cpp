@@ -20,6 +20,8 @@ int main(int argc, char** argv)
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     // The loudspeaker of whoever runs the tests stays silent. Tests of sound choose for themselves.
     if (!qEnvironmentVariableIsSet("ALSOFT_DRIVERS")) qputenv("ALSOFT_DRIVERS", "null");
+    // Nor does a sheet leave a printer: they are asked for where no print service answers.
+    qputenv("CUPS_SERVER", "/nowhere/cups.sock");
     testing::InitGoogleTest(&argc, argv);
     qInstallMessageHandler(passOnMessage);
     const QApplication application(argc, argv);

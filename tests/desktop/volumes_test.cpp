@@ -23,15 +23,28 @@ TEST(MountedVolumesTest, TheVolumeOfTheProgramComesFirstAndOnce)
         EXPECT_TRUE(std::filesystem::is_directory(name)) << name;
 }
 
-TEST(MountedVolumesTest, DriveAIsOneOfTheVolumesAndNeverThatOfTheSystem)
+TEST(DriveATest, IsTheFirstRemovableVolumeThatIsNotOfTheSystem)
 {
-    const QTemporaryDir folder;
-    const desktop::MountedVolumes volumes(folder.path().toStdString());
-    const auto drive = volumes.driveA();
-    if (!drive) GTEST_SKIP() << "No removable volume is mounted";
-    const std::vector<std::string> names = volumes.names();
-    EXPECT_NE(std::find(names.begin(), names.end(), *drive), names.end());
-    EXPECT_NE(*drive, QStorageInfo::root().rootPath().toStdString());
+    const desktop::Volume system{"/", true, false};
+    const desktop::Volume systemOnAStick{"/", true, true};
+    const desktop::Volume disk{"/home", false, false};
+    const desktop::Volume stick{"/media/yo2xyz/STICK", false, true};
+    const desktop::Volume card{"/media/yo2xyz/CARD", false, true};
+    EXPECT_EQ(desktop::driveAAmong({}), std::nullopt);
+    EXPECT_EQ(desktop::driveAAmong({system, disk}), std::nullopt);
+    EXPECT_EQ(desktop::driveAAmong({systemOnAStick, disk}), std::nullopt);
+    EXPECT_EQ(desktop::driveAAmong({system, disk, stick, card}), stick.folder);
+    EXPECT_EQ(desktop::driveAAmong({systemOnAStick, card, stick}), card.folder);
+}
+
+TEST(NamesOfVolumesTest, BeginWithThatOfTheProgram)
+{
+    using Names = std::vector<std::string>;
+    const std::vector<desktop::Volume> volumes = {
+        {"/", true, false}, {"/home", false, false}, {"/media/S", false, true}};
+    EXPECT_EQ(desktop::namesOf(volumes, "/home"), (Names{"/home", "/", "/media/S"}));
+    EXPECT_EQ(desktop::namesOf(volumes, "/run/somewhere"), (Names{"/run/somewhere", "/", "/home", "/media/S"}));
+    EXPECT_EQ(desktop::namesOf({}, "/"), (Names{"/"}));
 }
 
 }  // namespace
