@@ -5,7 +5,16 @@ build_packages=(g++ cmake ninja-build libsqlite3-dev)
 # The desktop program.
 desktop_packages=(qt6-base-dev qt6-serialport-dev libopenal-dev libasound2 fonts-dejavu-core fonts-liberation)
 # Tests, checks and benchmarks; real keys into a real window.
-test_packages=(libgtest-dev libgmock-dev libbenchmark-dev clang-format clang-tidy xvfb xdotool sqlite3 poppler-utils)
+test_packages=(libgtest-dev libgmock-dev libbenchmark-dev clang-format clang-tidy xvfb xdotool sqlite3 poppler-utils
+    g++-mingw-w64-x86-64-posix)
+# The Windows program, made here, and Windows to try it under.
+windows_packages=(g++-mingw-w64-x86-64-posix qt6-base-dev qt6-base-dev-tools dpkg-dev tcl googletest zip)
+wine_packages=(wine wine64 xvfb xdotool imagemagick sqlite3)
+# What packs the archive for Linux.
+archive_packages=(binutils patchelf xz-utils)
+# The pictures of the guides; the icon.
+picture_packages=(imagemagick)
+icon_packages=(librsvg2-bin imagemagick)
 
 # install_packages NAME...: installs those that are not there yet. Says so when it may not.
 install_packages() {

@@ -76,7 +76,7 @@ class OtherProgram {
  public:
     explicit OtherProgram(const fs::path& file)
     {
-        sqlite3_open_v2(file.c_str(), &handle_, SQLITE_OPEN_READWRITE, nullptr);
+        sqlite3_open_v2(platform::pathText(file).c_str(), &handle_, SQLITE_OPEN_READWRITE, nullptr);
     }
     OtherProgram(const OtherProgram&) = delete;
     OtherProgram& operator=(const OtherProgram&) = delete;

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "platform/files.h"
 #include "screen/frm_qso.h"
 #include "storage/database.h"
 #include "storage/schema.h"
@@ -64,7 +65,7 @@ class DatabaseTrouble : public testing::Test {
         sqlite3* database = nullptr;
         sqlite3_stmt* statement = nullptr;
         long rows = -1;
-        if (sqlite3_open_v2(file.c_str(), &database, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK &&
+        if (sqlite3_open_v2(platform::pathText(file).c_str(), &database, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK &&
             sqlite3_prepare_v2(database, ("SELECT count(*) FROM " + table).c_str(), -1, &statement, nullptr) ==
                 SQLITE_OK &&
             sqlite3_step(statement) == SQLITE_ROW)

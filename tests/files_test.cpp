@@ -94,6 +94,28 @@ TEST(FolderAbove, EndsAtTheRoot)
     EXPECT_EQ(platform::folderAbove(root), root);
 }
 
+TEST(FileName, IsNotThatOfADevice)
+{
+    for (const char* name : {"CON", "con.txt", "Con .txt", "PRN.adi", "AUX", "NUL.txt", "nul.tar.gz", "CONIN$",
+                             "conout$.txt", "COM1", "com9.txt", "COM¹.txt", "LPT1.adi", "LPT9", "lpt³"})
+        EXPECT_FALSE(platform::isFileName(name)) << name;
+    for (const char* name :
+         {"CONCURS.txt", "COM", "COM0.txt", "COM10.txt", "COMA.txt", "LPT", "A.CON", "NULL.txt", "A CON.txt"})
+        EXPECT_TRUE(platform::isFileName(name)) << name;
+}
+
+TEST(FileName, DoesNotEndInWhatASystemDrops)
+{
+    for (const char* name : {"NAME.", "NAME ", "NAME.txt ", "NAME...", "."})
+        EXPECT_FALSE(platform::isFileName(name)) << name;
+}
+
+TEST(PathFrom, IsTheOtherWayOfPathText)
+{
+    for (const char* text : {"/home/Ștefan/Concurs ă", "a/b.txt", "ЖЗ/日本"})
+        EXPECT_EQ(platform::pathText(platform::pathFrom(text)), text);
+}
+
 TEST(FileName, IsOneOnEverySystem)
 {
     for (const char* name : {"NAME", "YO VHF 26", "A.B", "ȘȚ", "A-B_(C)!", ".txt"})

@@ -160,7 +160,13 @@ Controls neverInMaraton()
 
 TEST_F(FormPlaces, SetUpPageIsInOrder)
 {
-    expectInOrder(FrmInit, {{&FrmInit.FrmConcurs, &FrmInit.FraConcurs}}, {});
+    Alternatives alternatives{{&FrmInit.FrmConcurs, &FrmInit.FraConcurs}};
+    // Either the name or the number is asked for.
+    for (const Control* name : std::initializer_list<const Control*>{&FrmInit.LblMyName, &FrmInit.TxtMyName})
+        for (const Control* number :
+             std::initializer_list<const Control*>{&FrmInit.LblRpNr, &FrmInit.TxtRpNr, &FrmInit.LblInscr})
+            alternatives.push_back({name, number});
+    expectInOrder(FrmInit, alternatives, {});
 }
 
 TEST_F(FormPlaces, EntryFormIsInOrder)
@@ -190,19 +196,19 @@ TEST_F(FormPlaces, EntryFormOfTheMaratonIsInOrderWithoutTheRose)
         EXPECT_EQ(field->Top, 1500) << field->name;
 }
 
-/// Which jobs of the review form exclude each other. The frames to choose a band, the station data and the button that
-/// ends an input may be in view with any of them.
+/// Which jobs of the review form exclude each other. The station data and the button that ends an input may be in view
+/// with any of them.
 Alternatives alternativesOfReview()
 {
     const auto& f = FrmAnzeigen;
     Controls logOrEdiPage = grids(f);
     logOrEdiPage.insert({&f.FraLogEDI1, &f.FraLogEDI2});
     Alternatives jobs{logOrEdiPage,
-                      {&f.Frame1, &f.Frame2, &f.Frame3, &f.Frame8, &f.FraArh},
+                      {&f.Frame1, &f.Frame2, &f.Frame3, &f.Frame8, &f.Frame10, &f.FraBandEdi, &f.FraArh},
                       {&f.Frame4, &f.FraArh},
                       {&f.Frame5, &f.FraArh}};
-    for (const Control* job : std::initializer_list<const Control*>{&f.Frame1, &f.Frame2, &f.Frame3, &f.Frame4,
-                                                                    &f.Frame5, &f.Frame8, &f.FraArh})
+    for (const Control* job : std::initializer_list<const Control*>{
+             &f.Frame1, &f.Frame2, &f.Frame3, &f.Frame4, &f.Frame5, &f.Frame8, &f.Frame10, &f.FraBandEdi, &f.FraArh})
         jobs.insert(jobs.end(), {{job, &f.FraLogEDI1}, {job, &f.FraLogEDI2}});
     return jobs;
 }
@@ -321,16 +327,45 @@ TEST_F(FormPlaces, SomePlacesAreFixed)
         EXPECT_EQ(field->Top, 1500) << field->name;
 }
 
+/// What the words of a label head must be there, and no field without a word.
+void expectAWordForEachField(const screen::Label& label)
+{
+    std::size_t fields = 0;
+    for (const Control* field : label.heads)
+        if (field->seen()) ++fields;
+    std::size_t words = 0;
+    char before = ' ';
+    for (const char character : label.Caption) {
+        if (before == ' ' && character != ' ') ++words;
+        before = character;
+    }
+    EXPECT_GT(fields, 0U) << label.name;
+    EXPECT_EQ(words, fields) << label.name;
+}
+
+TEST_F(FormPlaces, EveryFieldOfTheExchangeHasAWordAboveIt)
+{
+    const auto& f = FrmQSO;
+    for (const screen::Label* label : {&f.LblCall, &f.LblRSTe, &f.LblRSTR, &f.LblUTC, &f.LblDate})
+        expectAWordForEachField(*label);
+    FrmQSO.LblRSTe.Caption = "RSTS CODS QTHLocS  NameS";
+    FrmQSO.LblRSTR.Caption = "   RSTR CODR QTHLocR  NameR";
+    FrmQSO.TxtMyName.Visible = true;
+    FrmQSO.TxtYourName.Visible = true;
+    expectAWordForEachField(f.LblRSTe);
+    expectAWordForEachField(f.LblRSTR);
+}
+
 TEST_F(FormPlaces, TheRoseHasRoom)
 {
-    expectFree(FrmQSO, {3450, 2600, 1900, 2000}, onlyInMaraton());
+    expectFree(FrmQSO, {3060, 2250, 2220, 2490}, onlyInMaraton());
 }
 
 TEST_F(FormPlaces, TheRoseHasRoomInTheMaraton)
 {
     FrmQSO.takeMaratonPlaces();
     expectFree(FrmQSO, {3250, 50, 1500, 1500}, neverInMaraton());
-    expectFree(FrmQSO, {2720, 2420, 1160, 2200}, neverInMaraton());  // larger screens
+    expectFree(FrmQSO, {2550, 2340, 1500, 2400}, neverInMaraton());  // larger screens
 }
 
 TEST_F(FormPlaces, TheHeadingHasRoomBesideTheRoseInTheMaraton)
@@ -340,8 +375,11 @@ TEST_F(FormPlaces, TheHeadingHasRoomBesideTheRoseInTheMaraton)
     expectNoOverlap(FrmQSO, alternativesOfEntry(), neverInMaraton());
 }
 
-TEST_F(FormPlaces, TheReceivedExchangeMayStepDown)
+TEST_F(FormPlaces, TheReceivedExchangeMayStepDownOnLowScreens)
 {
+    FrmQSO.Frame2.design.Height = 2215;
+    FrmQSO.takeLowScreenPlaces();
+    expectInOrder(FrmQSO, alternativesOfEntry(), onlyInMaraton());
     for (Control* field : {&FrmQSO.TxtRSTR1, &FrmQSO.TxtRSTR2, &FrmQSO.TxtRSTr3})
         field->place(field->design.Left, 2400, field->design.Width, field->design.Height);
     expectNoOverlap(FrmQSO, alternativesOfEntry(), onlyInMaraton());

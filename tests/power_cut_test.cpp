@@ -12,6 +12,7 @@
 
 #include "base/number.h"
 #include "base/runtime_error.h"
+#include "platform/files.h"
 #include "storage/connection.h"
 #include "storage/database.h"
 #include "storage/schema.h"
@@ -70,7 +71,8 @@ class PowerCut : public testing::Test {
     {
         sqlite3* handle = nullptr;
         sqlite3_stmt* check = nullptr;
-        sqlite3_open_v2(folder_.file("LogKelvo.mdb").c_str(), &handle, SQLITE_OPEN_READWRITE, nullptr);
+        sqlite3_open_v2(platform::pathText(folder_.file("LogKelvo.mdb")).c_str(), &handle, SQLITE_OPEN_READWRITE,
+                        nullptr);
         sqlite3_prepare_v2(handle, "PRAGMA integrity_check", -1, &check, nullptr);
         const bool answered = sqlite3_step(check) == SQLITE_ROW;
         const std::string answer =
@@ -104,7 +106,7 @@ class PowerCut : public testing::Test {
         // Nothing of this is under test: it is durable, and its journal is forgotten.
         disk_->powerOn(Survival::all);
         PowerCutVfs::Files files = disk_->files();
-        files.erase(folder_.file("LogKelvo.mdb-journal").string());
+        files.erase(platform::pathText(folder_.file("LogKelvo.mdb-journal")));
         disk_->setFiles(files);
     }
 

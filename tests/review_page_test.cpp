@@ -42,7 +42,7 @@ struct FrameRow {
     int id;
     const char* buttons;
     double height;  ///< twips of the design screen
-    double width = 2760;
+    double width = 2880;
 };
 
 void expectFrame(const screen::Frame& frame, const FrameRow& row)
@@ -56,16 +56,16 @@ TEST_F(ReviewPage, OffersTheLogsOfTheContestToView)
 {
     const char* const threeBands = "Log 144a | - | Log 432a | - | Log 1296a | - |  &QRA Loc";
     const FrameRow rows[] = {
-        {0, "Log 144a | Log 144b | Log 432a | Log 432b | Log 1296a | Log 1296b |  &QRA Loc", 2925},
+        {0, "Log 144a | Log 144b | Log 432a | Log 432b | Log 1296a | Log 1296b |  &QRA Loc", 2940},
         {1, "Log 144a | Log 144b | - | - | - | - |  &QRA Loc", 1455},
-        {2, threeBands, 2925},
-        {3, threeBands, 2925},
+        {2, threeBands, 2940},
+        {3, threeBands, 2940},
         {4, "Log 144a | - | - | - | - | - |  &QRA Loc", 1455},
-        {5, threeBands, 2925},
+        {5, threeBands, 2940},
         {6, "Log 144a | Log 144b | - | - | - | - |  &QRA Loc", 1455},
-        {7, "Log 144 | - | Log 432 | - | Log 1296 | - |  &QRA Loc", 2925},
-        {8, threeBands, 2925},
-        {100, "Log 144a | Log 432a | Log 1296a | Log GHz | - | - |  &QRA Loc", 2925},
+        {7, "Log 144 | - | Log 432 | - | Log 1296 | - |  &QRA Loc", 2940, 2680},
+        {8, threeBands, 2940},
+        {100, "Log 144a | Log 432a | Log 1296a | Log GHz | - | - |  &QRA Loc", 2940},
         {101, "Log 50 | - | - | - | - | - |  &QRA Loc", 1455},
     };
     for (const FrameRow& row : rows) {
@@ -84,7 +84,7 @@ TEST_F(ReviewPage, OffersTheLogsOfTheContestToEmpty)
         {0, all, 2580},   {1, all, 2580},
         {2, all, 2580},   {3, all, 2580},
         {4, all, 2580},   {5, all, 2580},
-        {6, all, 2580},   {7, "LogYO2 | - | - | - | - | - | -", 2580},
+        {6, all, 2580},   {7, "LogYO2 | - | - | - | - | - | -", 2580, 2680},
         {8, all, 2580},   {100, "Log 144a | Log 432a | Log 1296a | Log GHz | Log 1296a | - | Log GHz", 3000},
         {101, all, 2580},
     };
@@ -111,7 +111,7 @@ TEST_F(ReviewPage, OffersTheLogsAndSummariesOfTheContestToPrint)
         {4, stages, 1215},
         {5, threeBands, 2880},
         {6, stages, 1215},
-        {7, "Log | - | - | - | - | - | Summary | - | -", 1215},
+        {7, "Log | - | - | - | - | - | Summary | - | -", 1215, 2680},
         {8, threeBands, 2880},
         {100, "Log 144a | Log 432 | Log 1296 | Log GHz | Summary | - | - | - | -", 2550, 1475},
         {101, "Log 50 | - | - | - | - | - | Summary 50 | - | -", 1215},
@@ -139,17 +139,17 @@ TEST_F(ReviewPage, OffersTheBandsOfTheContestForEdi)
     const char* const threeBands = "1&44 MHz | 4&32 MHz | 1&296 MHz | -";
     const char* const all = "1&44 MHz | 4&32 MHz | 1&296 MHz | GHz";
     const FrameRow rows[] = {
-        {0, threeBands, 1860, 2000},
-        {1, only144, 1860, 2000},
-        {2, threeBands, 1860, 2000},
-        {3, threeBands, 1860, 2000},
-        {4, only144, 1860, 2000},
-        {5, threeBands, 1860, 2000},
-        {6, only144, 1860, 2000},
-        {7, all, 1860, 2000},
-        {8, threeBands, 1860, 2000},
-        {100, all, 1860, 2000},
-        {101, "50 MHz | - | - | -", 1860, 2000},
+        {0, threeBands, 1860},
+        {1, only144, 1860},
+        {2, threeBands, 1860},
+        {3, threeBands, 1860},
+        {4, only144, 1860},
+        {5, threeBands, 1860},
+        {6, only144, 1860},
+        {7, all, 1860},
+        {8, threeBands, 1860},
+        {100, all, 1860},
+        {101, "50 MHz | - | - | -", 1860},
     };
     for (const FrameRow& row : rows) {
         SCOPED_TRACE(row.id);
@@ -166,8 +166,8 @@ TEST_F(ReviewPage, OffersTheBandsOfTheContestForTheDiskette)
         open(id);
         review::showDisketteBands();
         const bool noChoice = id == 1 || id == 4 || id == 6;
-        expectFrame(FrmAnzeigen.Frame8,
-                    {id, noChoice ? "- | - | -" : "144 MHz | 432 MHz | 1296 MHz", noChoice ? 735.0 : 1500.0, 2000});
+        expectFrame(FrmAnzeigen.Frame8, {id, noChoice ? "- | - | -" : "144 MHz | 432 MHz | 1296 MHz",
+                                         noChoice ? 735.0 : 1500.0, id == 7 ? 2680.0 : 2880.0});
     }
 }
 
@@ -188,11 +188,12 @@ TEST_F(ReviewPage, OfTheMaratonHasAWideLogAndTheFramesBesideIt)
         SCOPED_TRACE(id);
         open(id);
         const bool maraton = id == 7;
-        EXPECT_EQ(FrmAnzeigen.DBGrid9.Width, maraton ? 9000 : 6760);
+        EXPECT_EQ(FrmAnzeigen.DBGrid9.Width, maraton ? 8960 : 6720);
         for (const screen::Frame* frame :
-             {&FrmAnzeigen.Frame1, &FrmAnzeigen.Frame2, &FrmAnzeigen.Frame3, &FrmAnzeigen.Frame4, &FrmAnzeigen.Frame5,
-              &FrmAnzeigen.Frame8, &FrmAnzeigen.FraArh})
-            EXPECT_EQ(frame->Left, maraton ? 9200 : 7000) << frame->name;
+             {&FrmAnzeigen.Frame1, &FrmAnzeigen.Frame2, &FrmAnzeigen.Frame3, &FrmAnzeigen.Frame8, &FrmAnzeigen.FraArh})
+            EXPECT_EQ(frame->Left, maraton ? 9200 : 6960) << frame->name;
+        for (const screen::Frame* frame : {&FrmAnzeigen.Frame4, &FrmAnzeigen.Frame5})
+            EXPECT_EQ(frame->Left, maraton ? 9200 : 9960) << frame->name;
     }
 }
 
@@ -283,9 +284,9 @@ TEST(ReviewPageOnScreens, FollowsBothFactors)
         const double y = size.height * 15 / 9000.0;
         EXPECT_EQ(FrmAnzeigen.Width, size.width * 15);
         EXPECT_EQ(FrmAnzeigen.Height, size.height * 15);
-        EXPECT_NEAR(FrmAnzeigen.Frame1.Left, 7000 * x, 1);
-        EXPECT_NEAR(FrmAnzeigen.Frame1.Width, 2760 * x, 1);
-        EXPECT_NEAR(FrmAnzeigen.CmdGata.Top, 8420 * y, 1);
+        EXPECT_NEAR(FrmAnzeigen.Frame1.Left, 6960 * x, 1);
+        EXPECT_NEAR(FrmAnzeigen.Frame1.Width, 2880 * x, 1);
+        EXPECT_NEAR(FrmAnzeigen.CmdGata.Top, 8460 * y, 1);
         review::showViewButtons();
         EXPECT_NEAR(FrmAnzeigen.Frame1.Height, 1455 * y, 1);
         EXPECT_NEAR(FrmAnzeigen.OpBQRALoc.Top, 1080 * y, 1);

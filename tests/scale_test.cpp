@@ -106,12 +106,28 @@ TEST_F(Scale, AHeightSetByTheContestSurvivesScaling)
     EXPECT_EQ(FrmQSO.Frame2.Height, 3630);
 }
 
+TEST_F(Scale, LowScreensMakeRoomForTheExchangeThatStepsDown)
+{
+    constexpr double lowestTop = 2400;
+    setFactors(1, 0.75F);
+    screen::qso::MForm();
+    for (const screen::Control* label : {&FrmQSO.LblBeam1, &FrmQSO.LblQRB1})
+        EXPECT_LE(label->Top + label->Height, lowestTop * 0.75) << label->name;
+
+    // In the Maraton it does not step down.
+    Modul1.ConcId = 7;
+    FrmQSO.takeMaratonPlaces();
+    const double top = FrmQSO.LblBeam1.design.Top;
+    screen::qso::MForm();
+    EXPECT_EQ(FrmQSO.LblBeam1.Top, top * 0.75);
+}
+
 TEST_F(Scale, TheMaratonPlacesAreScaledLikeAllOthers)
 {
     setFactors(2, 2);
     FrmQSO.takeMaratonPlaces();
     screen::qso::MFormMare();
-    EXPECT_EQ(FrmQSO.DBGrid9.Width, 2 * 8240);
+    EXPECT_EQ(FrmQSO.DBGrid9.Width, 2 * 8280);
     expectScaled(FrmQSO, 2, 2);
 }
 

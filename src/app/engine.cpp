@@ -31,6 +31,12 @@ bool isMnemonic(const Key& key)
     return key.alt && key.character != 0;
 }
 
+/// Keys that act on something of the page, whatever field has the focus: no field gets them.
+bool actsOnPage(const Key& key)
+{
+    return isMnemonic(key) || isForGrid(key);
+}
+
 /// Keys that act once however long they are held, among them those that act on something else than the field.
 bool actsOncePerPress(const Key& key)
 {
@@ -207,7 +213,7 @@ void Engine::keyWentDown(const Key& key)
     // The release of this key may have gone to a window that is not ours.
     std::erase_if(downKeys_, [&](const DownKey& down) { return down.key.sameKeyAs(key); });
     const Addressee to = addressee();
-    downKeys_.push_back({key, to});
+    downKeys_.push_back({key, to, to.field != nullptr && !actsOnPage(key)});
     press(to, key);
 }
 
@@ -225,7 +231,7 @@ void Engine::keyWentUp(const Key& key)
     const auto down = std::find_if(downKeys_.begin(), downKeys_.end(),
                                    [&](const DownKey& candidate) { return candidate.key.sameKeyAs(key); });
     if (down == downKeys_.end()) return;
-    const bool reachedField = down->to.field != nullptr;
+    const bool reachedField = down->reachedField;
     const Key pressed = down->key;
     downKeys_.erase(down);
     if (reachedField) deliverKeyUp(pressed);
@@ -241,7 +247,7 @@ void Engine::releaseEarlierCharacterKeys()
                  [](const DownKey& down) { return isCharacterKey(down.key); });
     std::erase_if(downKeys_, [](const DownKey& down) { return isCharacterKey(down.key); });
     for (const DownKey& down : earlier)
-        if (down.to.field != nullptr) deliverKeyUp(down.key);
+        if (down.reachedField) deliverKeyUp(down.key);
 }
 
 void Engine::deliverKeyUp(const Key& key)
@@ -272,9 +278,10 @@ void Engine::press(Addressee to, const Key& key)
         Control* named = screen::controlWithMnemonic(*form, key.character);
         if (named == nullptr) return;
         if (named->kind == Kind::frame) return takeFocus(*screen::firstStopIn(*named));
+        if (named->kind == Kind::listBox) return takeFocus(*named);  // a click would mean one of its items
         return clicked(*named);
     }
-    if (actsOnGrid(key, gridViews_)) return;
+    if (isForGrid(key)) return actOnGrid(key, gridViews_);
     if (key.code == platform::keyTab && !key.ctrl && !key.alt) {
         Control* next = nextStop(*form, to.field, key.shift);
         if (next != nullptr) return next->SetFocus();

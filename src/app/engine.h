@@ -51,10 +51,11 @@ class Engine {
         bool isThere() const;
     };
 
-    /// A key that is down, and the field that its KeyDown reached.
+    /// A key that is down, and the field that had the focus when it went down.
     struct DownKey {
         platform::Key key;
         Addressee to;
+        bool reachedField = false;  ///< its KeyDown went to that field; otherwise nobody gets its KeyUp
     };
 
     void keyWentDown(const platform::Key& key);

@@ -241,6 +241,7 @@ void wireArchive()
     FrmAnzeigen.TxtNameDat.KeyPress = review::TxtNameDat_KeyPress;
     FrmAnzeigen.DrvList.Click = review::DrvList_Click;
     FrmAnzeigen.DirList.Click = review::DirList_Click;
+    FrmAnzeigen.DirList.KeyDown = review::DirList_KeyDown;
     FrmAnzeigen.FilList.Click = review::FilList_Click;
     FrmAnzeigen.CmdMem.Click = review::CmdMem_Click;
     FrmAnzeigen.CmdArhivADI.Click = review::CmdArhivADI_Click;

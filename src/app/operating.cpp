@@ -5,6 +5,7 @@
 #include <iterator>
 #include <vector>
 
+#include "base/text.h"
 #include "platform/machine.h"
 
 namespace app {
@@ -26,6 +27,49 @@ Control* neighbourOption(const Control& option, bool backwards)
     const auto at = std::find(options.begin(), options.end(), &option);
     if (at == options.end() || options.size() < 2) return nullptr;
     return std::next(at) == options.end() ? options.front() : *std::next(at);
+}
+
+bool leadsBack(const Key& key)
+{
+    return key.code == platform::keyUp || key.code == platform::keyLeft;
+}
+
+bool leadsOn(const Key& key)
+{
+    return key.code == platform::keyDown || key.code == platform::keyRight;
+}
+
+/// The item behind the chosen one that begins with a character, round the end of the list; -1 when there is none.
+int nextItemWith(const screen::ListBox& list, char32_t character)
+{
+    const int count = static_cast<int>(list.items.size());
+    for (int step = 1; step <= count; ++step) {
+        const int item = (list.ListIndex + step) % count;
+        const std::string& text = list.items[static_cast<std::size_t>(item)];
+        if (!text.empty() && base::upper(base::characterAt(text, 1)) == base::upper(character)) return item;
+    }
+    return -1;
+}
+
+/// The item that a key leads to, below 0 or behind the last one where there is none.
+int itemLedTo(const screen::ListBox& list, const Key& key)
+{
+    if (leadsBack(key)) return list.ListIndex - 1;
+    if (leadsOn(key)) return list.ListIndex + 1;
+    if (key.code == platform::keyHome) return 0;
+    if (key.code == platform::keyEnd) return static_cast<int>(list.items.size()) - 1;
+    return key.character > U' ' ? nextItemWith(list, key.character) : -1;
+}
+
+void operateList(screen::ListBox& list, const Key& key)
+{
+    if (key.ctrl || key.alt) return;
+    const bool entered = key.code == platform::keyEnter && list.ListIndex >= 0;
+    const int wanted = itemLedTo(list, key);
+    const bool leads = wanted >= 0 && wanted < static_cast<int>(list.items.size()) && wanted != list.ListIndex;
+    if (leads) list.ListIndex = wanted;
+    const bool clicked = entered || (leads && list.choiceClicks);
+    if (clicked && list.Click != nullptr) run(list.Click);
 }
 
 screen::Grid* gridInView()
@@ -52,7 +96,7 @@ void moveInGrid(screen::Grid& grid, bool up, long count)
     }
 }
 
-void actOnGrid(screen::Grid& grid, int code, GridViews& gridViews)
+void actOnRows(screen::Grid& grid, int code, GridViews& gridViews)
 {
     switch (code) {
         case platform::keyUp:
@@ -110,34 +154,29 @@ Control* nextStop(const screen::Form& form, const Control* from, bool backwards)
 
 void operate(Control& control, const Key& key)
 {
+    if (control.kind == Kind::listBox) return operateList(static_cast<screen::ListBox&>(control), key);
     const bool presses =
         key.code == platform::keySpace || (key.code == platform::keyEnter && control.kind == Kind::commandButton);
-    if (presses && control.kind != Kind::listBox) return choose(control);
-    const bool backwards = key.code == platform::keyUp || key.code == platform::keyLeft;
-    const bool forwards = key.code == platform::keyDown || key.code == platform::keyRight;
-    if (!backwards && !forwards) return;
-    if (control.kind == Kind::optionButton) {
-        Control* neighbour = neighbourOption(control, backwards);
-        if (neighbour == nullptr) return;
-        neighbour->SetFocus();
-        return choose(*neighbour);
-    }
-    if (control.kind == Kind::listBox) {
-        auto& list = static_cast<screen::ListBox&>(control);
-        const int wanted = list.ListIndex + (backwards ? -1 : 1);
-        if (wanted < 0 || wanted >= static_cast<int>(list.items.size())) return;
-        list.ListIndex = wanted;
-        if (list.Click != nullptr) run(list.Click);
-    }
+    if (presses) return choose(control);
+    if (control.kind != Kind::optionButton || !(leadsBack(key) || leadsOn(key))) return;
+    Control* neighbour = neighbourOption(control, leadsBack(key));
+    if (neighbour == nullptr) return;
+    neighbour->SetFocus();
+    choose(*neighbour);
 }
 
-bool actsOnGrid(const Key& key, GridViews& gridViews)
+bool isForGrid(const Key& key)
 {
-    if (!key.ctrl || !(leadsFar(key) || leadsToNext(key) || key.code == platform::keyDelete)) return false;
+    if (!key.ctrl) return false;
+    if (leadsToNext(key) || key.code == platform::keyDelete) return true;
+    const screen::Grid* grid = gridInView();
+    return leadsFar(key) && grid != nullptr && grid->farKeys;
+}
+
+void actOnGrid(const Key& key, GridViews& gridViews)
+{
     screen::Grid* grid = gridInView();
-    if (leadsFar(key) && (grid == nullptr || !grid->farKeys)) return false;
-    if (grid != nullptr) run([&] { actOnGrid(*grid, key.code, gridViews); });
-    return true;
+    if (grid != nullptr) run([&] { actOnRows(*grid, key.code, gridViews); });
 }
 
 void openHelp()

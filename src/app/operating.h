@@ -29,7 +29,10 @@ void operate(screen::Control& control, const platform::Key& key);
 
 /// Ctrl with an arrow or Delete acts on the rows in view, wherever the focus is, and with Page Up, Page Down, Home or
 /// End where the fields of the form have no use for these. False for other keys.
-bool actsOnGrid(const platform::Key& key, GridViews& gridViews);
+bool isForGrid(const platform::Key& key);
+
+/// Does what a key for the grid does to the one in view. Nothing where none is.
+void actOnGrid(const platform::Key& key, GridViews& gridViews);
 
 /// Opens the help at the number of the form on the screen.
 void openHelp();

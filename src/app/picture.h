@@ -29,9 +29,11 @@ struct GridPicture {
 
 /// One control that is seen. Which of the members mean something depends on the kind.
 struct ControlPicture {
-    screen::Control* control = nullptr;  ///< to be named in queue entries, never looked into by the window
+    screen::Control* control = nullptr;      ///< to be named in queue entries, never looked into by the window
+    const screen::Control* frame = nullptr;  ///< that holds it, nullptr for the form; named only, as `control`
     screen::Kind kind = screen::Kind::label;
     screen::Rectangle place;  ///< twips, from the corner of the form
+    char32_t accessKey = 0;   ///< picks it with Alt, 0 for none
     std::string text;         ///< caption or text
     std::string toolTip;
     screen::Colour background;
@@ -42,6 +44,8 @@ struct ControlPicture {
     bool hasFocus = false;
     bool checked = false;  ///< option chosen, box checked
     bool rightAligned = false;
+    std::vector<screen::Rectangle>
+        heads;  ///< what the words of a label stand above, twips, from the corner of the form
     bool inputMethod = true;
     std::size_t selStart = 0;  ///< characters
     std::size_t selLength = 0;

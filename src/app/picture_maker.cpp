@@ -1,5 +1,6 @@
 #include "app/picture_maker.h"
 
+#include "base/text.h"
 #include "platform/machine.h"
 #include "screen/mnemonic.h"
 
@@ -47,9 +48,13 @@ void addPropertiesOfKind(ControlPicture& picture, const Control& control, GridVi
             picture.inputMethod = box.inputMethod;
             break;
         }
-        case Kind::label:
-            picture.rightAligned = static_cast<const screen::Label&>(control).rightAligned;
+        case Kind::label: {
+            const auto& label = static_cast<const screen::Label&>(control);
+            picture.rightAligned = label.rightAligned;
+            for (const Control* headed : label.heads)
+                if (headed->seen()) picture.heads.push_back(placeOnForm(*headed));
             break;
+        }
         case Kind::optionButton:
             picture.checked = static_cast<const screen::OptionButton&>(control).Value;
             break;
@@ -78,14 +83,23 @@ void addPropertiesOfKind(ControlPicture& picture, const Control& control, GridVi
     }
 }
 
+/// A control that says nothing about itself tells at least its key.
+std::string toolTipOf(const Control& control)
+{
+    if (!control.ToolTipText.empty() || control.accessKey == 0) return control.ToolTipText;
+    return "Alt+" + base::fromCharacter(control.accessKey);
+}
+
 ControlPicture pictureOf(Control& control, GridViews& gridViews)
 {
     ControlPicture picture;
     picture.control = &control;
     picture.kind = control.kind;
     picture.place = placeOnForm(control);
-    picture.text = screen::captionOf(control);
-    picture.toolTip = control.ToolTipText;
+    picture.frame = control.container;
+    picture.accessKey = screen::mnemonicOf(control);
+    picture.text = screen::markedCaption(control);
+    picture.toolTip = toolTipOf(control);
     picture.background = control.BackColor;
     picture.foreground = control.ForeColor;
     picture.fontPoints = control.fontPoints;

@@ -6,6 +6,7 @@
 #include "base/number.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
+#include "platform/progress.h"
 #include "storage/log_statements.h"
 
 namespace band {
@@ -64,7 +65,9 @@ void recountMaratonLog(screen::DataControl& data, std::size_t pointsCharacters)
     data.RecordSource = storage::showTable("UusLGYO2");
     data.Refresh();
     storage::RecordSet& rows = data.Recordset;
-    for (; !rows.IsEof(); rows.MoveNext()) {
+    platform::LongWork work("Recount");
+    for (long row = 1; !rows.IsEof(); rows.MoveNext(), ++row) {
+        work.done(row);
         const std::string band = rows.Field(columnBand);
         addToMaratonTotals(band, base::left(rows.Field(columnPoints), pointsCharacters));
     }

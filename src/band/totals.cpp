@@ -6,6 +6,7 @@
 #include "base/text.h"
 #include "entry/log_table.h"
 #include "platform/machine.h"
+#include "platform/progress.h"
 #include "runstate/modul1.h"
 #include "screen/frm_qso.h"
 #include "storage/database.h"
@@ -30,8 +31,10 @@ void walk(const entry::LogTable& table)
     storage::RecordSet& rows = data.Recordset;
     const bool countsLocators = table.band != entry::bandGHz;
     long blanks = 0;
+    platform::LongWork work("Recount");
     long count = 0;
     for (; !rows.IsEof(); rows.MoveNext(), ++count) {
+        work.done(count);
         const double points = base::numericValue(rows.Field(columnPoints));
         Modul1.*table.Pct = base::roundToInt32(Modul1.*table.Pct + points);
         if (countsLocators && base::trim(rows.Field(columnLocator)).empty()) ++blanks;

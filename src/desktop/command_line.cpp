@@ -11,15 +11,16 @@ CommandLine readCommandLine(const QStringList& arguments, const QString& ownFold
     QStringList words = arguments.mid(1);
     const qsizetype option = words.indexOf(QStringLiteral("--folder"));
     if (option >= 0) {
-        if (option + 1 == words.size()) return {{}, {}, QStringLiteral("--folder needs the name of a folder")};
+        if (option + 1 == words.size() || words.at(option + 1).isEmpty())
+            return {{}, {}, QStringLiteral("--folder needs the name of a folder")};
         folder = words.takeAt(option + 1);
         words.removeAt(option);
     }
-    const QFileInfo place(folder);
-    if (!place.isDir()) return {{}, {}, QStringLiteral("There is no folder %1").arg(folder)};
-    return {QDir::toNativeSeparators(QDir::cleanPath(place.absoluteFilePath())).toStdString(),
+    return {QDir::toNativeSeparators(QDir::cleanPath(QFileInfo(folder).absoluteFilePath())).toStdString(),
             words.join(QLatin1Char(' ')).toStdString(),
-            {}};
+            {},
+            QDir::toNativeSeparators(QDir::cleanPath(ownFolder)).toStdString(),
+            option >= 0};
 }
 
 }  // namespace desktop

@@ -26,6 +26,7 @@ class DesktopMachine {
     MessageBoxWindow& messageBoxes() { return messageBoxes_; }
     PolledKeys& polledKeys() { return polledKeys_; }
     ScreenArea& screenArea() { return screenArea_; }
+    HelpFile& help() { return help_; }
 
  private:
     MachineClock clock_;

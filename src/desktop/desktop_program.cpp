@@ -9,27 +9,37 @@ namespace desktop {
 
 DesktopProgram::DesktopProgram(const CommandLine& commandLine)
     : machine_(commandLine, queue_, [this] { thread_.publish(); }),
-      window_([this](const app::QueueEntry& entry) { queue_.post(entry); }),
-      keyboard_(window_.form(), machine_.polledKeys(), [this](const app::QueueEntry& entry) { queue_.post(entry); }),
+      window_([this](const app::QueueEntry& entry) { post(entry); }),
+      progress_(queue_, window_.noticeLine()),
+      keyboard_(window_.form(), machine_.polledKeys(), [this](const app::QueueEntry& entry) { post(entry); }),
       thread_(queue_, *this, [this] { QMetaObject::invokeMethod(this, &DesktopProgram::close, Qt::QueuedConnection); })
 {
     machine_.messageBoxes().setParentWindow(&window_);
+    machine_.help().setParentWindow(&window_);
 }
 
 DesktopProgram::~DesktopProgram() = default;
 
-void DesktopProgram::start()
+void DesktopProgram::start(const std::string& notice)
 {
+    if (!notice.empty()) machine_.machine().notices.notice(notice);
     // The size first: where no window manager is, nobody else makes the window as large as the screen.
     if (const QScreen* screen = window_.screen()) window_.setGeometry(screen->availableGeometry());
     window_.showMaximized();
     window_.activateWindow();
     thread_.start(machine_.machine());
+    progress_.wake();
+}
+
+void DesktopProgram::post(const app::QueueEntry& entry)
+{
+    queue_.post(entry);
+    progress_.wake();
 }
 
 void DesktopProgram::askToEnd()
 {
-    queue_.post(app::CloseAsked{});
+    post(app::CloseAsked{});
 }
 
 /// Program thread. Pictures that come faster than the window shows them are left out, but for the newest.

@@ -13,6 +13,7 @@
 #include "desktop/keyboard.h"
 #include "desktop/main_window.h"
 #include "desktop/program_thread.h"
+#include "desktop/progress_watch.h"
 
 namespace desktop {
 
@@ -25,8 +26,8 @@ class DesktopProgram final : public QObject, private app::PictureSink {
     /// Takes the program away as a kill would, when it has not ended by itself.
     ~DesktopProgram() override;
 
-    /// Opens the window over the whole screen and starts the program.
-    void start();
+    /// Opens the window over the whole screen and starts the program, with a notice if there is something to tell.
+    void start(const std::string& notice = {});
 
     /// Asks the program to end, as the close button does.
     void askToEnd();
@@ -41,9 +42,13 @@ class DesktopProgram final : public QObject, private app::PictureSink {
     /// The message box on the screen, nullptr when there is none.
     QMessageBox* box() const { return machine_.messageBoxes().box(); }
     platform::Machine& machine() { return machine_.machine(); }
+    HelpFile& help() { return machine_.help(); }
 
     /// Posts an entry as the window does.
-    void post(const app::QueueEntry& entry) { queue_.post(entry); }
+    void post(const app::QueueEntry& entry);
+
+    /// The program waits, for an entry or for the answer of a box, with everything before handled and shown.
+    bool settled() const;
 
     /// Turns the event loop until the program waits, for an entry or for the answer of a box, with everything before
     /// handled and shown. False when that has not come about after `limit`.
@@ -57,11 +62,11 @@ class DesktopProgram final : public QObject, private app::PictureSink {
     void publish(std::shared_ptr<const app::Picture> picture) override;
     void showNewest();
     void close();
-    bool settled() const;
 
     EntryQueue queue_;
     mutable DesktopMachine machine_;
     MainWindow window_;
+    ProgressWatch progress_;
     Keyboard keyboard_;
     mutable std::mutex newestMutex_;
     std::shared_ptr<const app::Picture> newest_;  ///< not shown yet, nullptr when it is

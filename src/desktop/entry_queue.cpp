@@ -8,6 +8,9 @@ namespace desktop {
 
 namespace {
 
+using Clock = std::chrono::steady_clock;
+constexpr Clock::rep nobodyIsBusy = -1;
+
 bool isAnswer(const app::QueueEntry& entry)
 {
     return std::holds_alternative<app::BoxAnswered>(entry);
@@ -37,6 +40,7 @@ void EntryQueue::post(app::QueueEntry entry)
 
 std::optional<app::QueueEntry> EntryQueue::poll()
 {
+    noteRest();
     const std::lock_guard lock(mutex_);
     if (stopped_) throw base::ProgramEnd{};
     if (entries_.empty()) return std::nullopt;
@@ -49,12 +53,12 @@ std::optional<app::QueueEntry> EntryQueue::waitUntil(std::optional<platform::Mon
 {
     std::unique_lock lock(mutex_);
     const auto ready = [this] { return stopped_ || !entries_.empty(); };
-    waiting_ = Waiting::forEntry;
+    wait(Waiting::forEntry);
     if (deadline)
         changed_.wait_until(lock, std::chrono::steady_clock::time_point(*deadline), ready);
     else
         changed_.wait(lock, ready);
-    waiting_ = Waiting::no;
+    wait(Waiting::no);
     if (stopped_ || entries_.empty()) return std::nullopt;
     app::QueueEntry entry = std::move(entries_.front());
     entries_.pop_front();
@@ -69,9 +73,9 @@ bool EntryQueue::answered() const
 platform::Button EntryQueue::waitForAnswer()
 {
     std::unique_lock lock(mutex_);
-    waiting_ = Waiting::forAnswer;
+    wait(Waiting::forAnswer);
     changed_.wait(lock, [this] { return stopped_ || answered(); });
-    waiting_ = Waiting::no;
+    wait(Waiting::no);
     if (stopped_) throw base::ProgramEnd{};
     const auto answer = std::find_if(entries_.begin(), entries_.end(), isAnswer);
     const platform::Button button = std::get<app::BoxAnswered>(*answer).button;
@@ -95,11 +99,37 @@ bool EntryQueue::stopped() const
     return stopped_;
 }
 
+void EntryQueue::wait(Waiting what)
+{
+    waiting_ = what;
+    if (what == Waiting::no)
+        noteRest();
+    else
+        busySince_ = nobodyIsBusy;
+}
+
+void EntryQueue::noteRest()
+{
+    busySince_ = Clock::now().time_since_epoch().count();
+}
+
+std::chrono::nanoseconds EntryQueue::busyFor() const
+{
+    const Clock::rep since = busySince_;
+    return since == nobodyIsBusy ? Clock::duration::zero() : Clock::now().time_since_epoch() - Clock::duration(since);
+}
+
 bool EntryQueue::idle() const
 {
     const std::lock_guard lock(mutex_);
     if (waiting_ == Waiting::forEntry) return entries_.empty();
     return waiting_ == Waiting::forAnswer && !answered();
+}
+
+bool EntryQueue::waitsForEntry() const
+{
+    const std::lock_guard lock(mutex_);
+    return waiting_ == Waiting::forEntry && entries_.empty();
 }
 
 }  // namespace desktop

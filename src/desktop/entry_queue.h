@@ -1,6 +1,8 @@
 // The queue between the window thread, which posts what happens, and the program thread, which handles it.
 #pragma once
 
+#include <atomic>
+#include <chrono>
 #include <condition_variable>
 #include <deque>
 #include <mutex>
@@ -35,19 +37,32 @@ class EntryQueue final : public app::EntrySource {
     /// For whatever waits elsewhere on the program thread: asked to stop when the queue is.
     std::stop_token stopToken() const { return stopping_.get_token(); }
 
+    /// The program has just waited on purpose in the middle of a handler: it counts as busy only from now on. Program
+    /// thread only.
+    void noteRest();
+
+    /// How long the program thread has been at work without a look into the queue and without a rest; zero when it
+    /// waits. The start of the program counts from the making of the queue. From any thread.
+    std::chrono::nanoseconds busyFor() const;
+
     /// True when the program thread waits and there is nothing that it could take. From any thread.
     bool idle() const;
+    /// True when it waits for an entry and there is none. From any thread.
+    bool waitsForEntry() const;
 
  private:
     enum class Waiting { no, forEntry, forAnswer };
 
     bool answered() const;
+    void wait(Waiting what);
 
     mutable std::mutex mutex_;
     std::condition_variable changed_;
     std::deque<app::QueueEntry> entries_;
     Waiting waiting_ = Waiting::no;
     bool stopped_ = false;
+    std::atomic<std::chrono::steady_clock::rep> busySince_ =
+        std::chrono::steady_clock::now().time_since_epoch().count();
     std::stop_source stopping_;
 };
 

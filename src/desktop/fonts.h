@@ -5,24 +5,31 @@
 #include <QFontMetricsF>
 #include <QSizeF>
 #include <map>
-#include <string>
+#include <tuple>
 
 namespace desktop {
 
 /// Below this nobody can read it: a text that does not fit then is cut.
 constexpr int smallestFontPixels = 8;
 
+enum class Face {
+    text,  ///< the desktop's own family
+    code,  ///< of fixed pitch, with a mark in its zero: calls, locators, codes and times
+};
+
 class Fonts {
  public:
-    /// Fonts of the desktop's own family.
     Fonts();
 
-    const QFont& font(int pixels, bool bold) { return entry(pixels, bold).font; }
-    const QFontMetricsF& metrics(int pixels, bool bold) { return entry(pixels, bold).metrics; }
+    const QFont& font(int pixels, bool bold, Face face = Face::text) { return entry(pixels, bold, face).font; }
+    const QFontMetricsF& metrics(int pixels, bool bold, Face face = Face::text)
+    {
+        return entry(pixels, bold, face).metrics;
+    }
 
     /// The size, `wanted` or less, at which the text fits into `room`; the smallest one when none does.
     /// `flags` are those that the text is drawn with, Qt::TextWordWrap for one that may break into lines.
-    int fitting(const QString& text, const QSizeF& room, int wanted, bool bold, int flags);
+    int fitting(const QString& text, const QSizeF& room, int wanted, bool bold, int flags, Face face = Face::text);
 
  private:
     struct Entry {
@@ -30,10 +37,11 @@ class Fonts {
         QFontMetricsF metrics;
     };
 
-    Entry& entry(int pixels, bool bold);
+    Entry& entry(int pixels, bool bold, Face face);
 
-    QString family_;
-    std::map<std::pair<int, bool>, Entry> entries_;
+    QString textFamily_;
+    QString codeFamily_;
+    std::map<std::tuple<int, bool, Face>, Entry> entries_;
 };
 
 }  // namespace desktop

@@ -9,6 +9,7 @@ namespace {
 
 constexpr double designHeight = 600;
 constexpr double designWidth = 800;
+constexpr double mostFontGrowth = 1.2;              ///< against the height: boxes have about so much room to spare
 constexpr double designPixelsPerPoint = 20.0 / 15;  // 20 twips a point, 15 a pixel
 
 }  // namespace
@@ -17,7 +18,8 @@ FormScale::FormScale(double width, double height, QSize client)
     : pixelsPerTwipX_(client.width() / width),
       pixelsPerTwipY_(client.height() / height),
       growth_(client.height() / designHeight),
-      growthX_(client.width() / designWidth)
+      growthX_(client.width() / designWidth),
+      growthOfFonts_(std::min(std::sqrt(growth_ * growthX_), growth_ * mostFontGrowth))
 {
 }
 
@@ -31,7 +33,7 @@ QRect FormScale::pixels(const screen::Rectangle& place) const
 
 int FormScale::fontPixels(double points) const
 {
-    return std::max(1, static_cast<int>(std::lround(points * designPixelsPerPoint * growth_)));
+    return std::max(1, static_cast<int>(std::lround(points * designPixelsPerPoint * growthOfFonts_)));
 }
 
 int FormScale::designPixels(double pixels) const

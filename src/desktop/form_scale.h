@@ -29,7 +29,8 @@ class FormScale {
     /// Pixels for a width on a screen of 12000 twips.
     double designX(double twips) const { return twips * growthX_ / 15; }
 
-    /// Pixels of a font of `points`, which are those of a screen 600 pixels high.
+    /// Pixels of a font of `points`, which are those of a screen of 800 by 600. On a wide screen, where the boxes are
+    /// wide for their height, it grows somewhat more than the height does.
     int fontPixels(double points) const;
 
     /// Pixels for a length on a screen 600 pixels high, at least 1.
@@ -40,6 +41,7 @@ class FormScale {
     double pixelsPerTwipY_ = 1.0 / 15;
     double growth_ = 1;   ///< height of the window in screens of 600 pixels
     double growthX_ = 1;  ///< its width in screens of 800 pixels
+    double growthOfFonts_ = 1;
 };
 
 }  // namespace desktop

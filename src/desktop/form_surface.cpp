@@ -73,6 +73,11 @@ GridLayout FormSurface::grid(const app::ControlPicture& grid) const
     return layout;
 }
 
+GridColumns FormSurface::gridColumns(const app::ControlPicture& grid)
+{
+    return columnsOf(grid, this->grid(grid), scale_, fonts_);
+}
+
 ListLayout FormSurface::list(const app::ControlPicture& list) const
 {
     const auto top = listTops_.find(list.control);
@@ -114,7 +119,7 @@ void FormSurface::paint(QPainter& painter, const QRegion& region)
     Canvas canvas{painter, scale_, fonts_};
     painter.setClipRegion(region);
     painter.fillRect(region.boundingRect(), formColour());
-    if (picture_->rose.visible) paintRose(canvas, picture_->rose);
+    if (picture_->rose.visible) paintRose(canvas, *picture_);
     for (const app::ControlPicture& control : picture_->controls)
         if (region.intersects(placeOfControl(control, scale_))) paintControl(canvas, control);
 }

@@ -21,6 +21,8 @@ class FormSurface {
     /// Takes the next picture and returns the part of the window that it changes.
     QRegion setPicture(std::shared_ptr<const app::Picture> picture);
     const app::Picture& picture() const { return *picture_; }
+    /// The same, to be kept while others follow.
+    std::shared_ptr<const app::Picture> sharedPicture() const { return picture_; }
 
     void setSize(QSize size);
     QSize size() const { return size_; }
@@ -35,6 +37,7 @@ class FormSurface {
 
     TextBoxLayout textBox(const app::ControlPicture& box);
     GridLayout grid(const app::ControlPicture& grid) const;
+    GridColumns gridColumns(const app::ControlPicture& grid);
     ListLayout list(const app::ControlPicture& list) const;
 
     /// Scrolls a list by some items. False when it stands at that end already.

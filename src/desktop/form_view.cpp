@@ -9,6 +9,8 @@
 #include <QStyleHints>
 #include <QToolTip>
 
+#include "desktop/accessible_form.h"
+#include "desktop/accessible_news.h"
 #include "desktop/characters.h"
 
 namespace desktop {
@@ -23,12 +25,14 @@ FormView::FormView(Poster post, QWidget* parent)
     setAttribute(Qt::WA_InputMethodEnabled, false);
     setMouseTracking(true);
     setMinimumSize(320, 200);
+    teachAccessibility();
 }
 
 void FormView::setPicture(const std::shared_ptr<const app::Picture>& picture)
 {
     const app::ControlPicture* before = surface_.focused();
     const screen::Control* focusBefore = before == nullptr ? nullptr : before->control;
+    const std::shared_ptr<const app::Picture> toldPicture = isReadOut() ? surface_.sharedPicture() : nullptr;
     const QRegion changed = surface_.setPicture(picture);
     if (!changed.isEmpty()) update(changed);
     announceCapacities();
@@ -38,6 +42,7 @@ void FormView::setPicture(const std::shared_ptr<const app::Picture>& picture)
     if (moved) followFocus();
     const bool caretTouched = focused != nullptr && changed.intersects(surface_.scale().pixels(focused->place));
     if (moved || caretTouched) restartCaret();
+    if (toldPicture) tellChanges(*this, *toldPicture);
 }
 
 QRect FormView::placeOf(const screen::Control* control) const
@@ -145,6 +150,15 @@ void FormView::wheelEvent(QWheelEvent* event)
 {
     pointer_.turnWheel(event->position().toPoint(), event->angleDelta().y());
     event->accept();
+}
+
+/// The toolkit tells that the form has the focus; which of its controls has it comes behind that.
+void FormView::focusInEvent(QFocusEvent* event)
+{
+    QWidget::focusInEvent(event);
+    if (isReadOut())
+        QMetaObject::invokeMethod(
+            this, [this] { tellFocus(*this); }, Qt::QueuedConnection);
 }
 
 void FormView::inputMethodEvent(QInputMethodEvent* event)

@@ -28,6 +28,11 @@ class FormView final : public QWidget {
     /// Where a control stands in the window, in pixels; empty when it is not seen.
     QRect placeOf(const screen::Control* control) const;
 
+    /// For those who tell of the picture in other ways than by painting it.
+    FormSurface& surface() const { return surface_; }
+    /// Brings an entry to the program, as the pointer does.
+    void post(const app::QueueEntry& entry) const { post_(entry); }
+
     QSize sizeHint() const override { return {800, 560}; }
     QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
@@ -41,6 +46,7 @@ class FormView final : public QWidget {
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
 
  private:

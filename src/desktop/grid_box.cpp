@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "desktop/characters.h"
-#include "desktop/grid_columns.h"
 
 namespace desktop {
 
@@ -12,6 +11,8 @@ namespace {
 
 constexpr double headerTwips = 285;
 constexpr double rowTwips = 255;
+constexpr int currentRowMark = 3;  ///< pixels, as the margin of a cell
+constexpr QColor headerColour(226, 230, 236);
 
 class GridPainter {
  public:
@@ -19,8 +20,7 @@ class GridPainter {
         : canvas_(canvas),
           grid_(grid),
           layout_(layout),
-          columns_(layOutColumns(grid, canvas.scale, canvas.fonts, layout.body.width(),
-                                 std::min(canvas.scale.fontPixels(grid.fontPoints), layout.rowHeight - 2))),
+          columns_(columnsOf(grid, layout, canvas.scale, canvas.fonts)),
           metrics_(canvas.fonts.metrics(columns_.fontPixels, grid.bold))
     {
     }
@@ -50,7 +50,8 @@ class GridPainter {
         for (const GridColumn& column : columns_.columns) {
             const QRectF cell(left + cellMargin, top, column.width - 2 * cellMargin, height);
             const QString shown = metrics_.elidedText(toolkitText(textOf(column.number)), Qt::ElideRight, cell.width());
-            canvas_.painter.drawText(cell, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, shown);
+            const int across = column.figures ? Qt::AlignRight : Qt::AlignLeft;
+            canvas_.painter.drawText(cell, Qt::AlignVCenter | across | Qt::TextSingleLine, shown);
             left += column.width;
         }
     }
@@ -58,7 +59,7 @@ class GridPainter {
     void paintHeader()
     {
         QPainter& painter = canvas_.painter;
-        painter.fillRect(layout_.header, QColor(222, 222, 222));
+        painter.fillRect(layout_.header, headerColour);
         painter.setPen(Qt::black);
         paintCells(layout_.header.top(), layout_.header.height(),
                    [this](std::size_t column) { return grid_.grid->titles[column]; });
@@ -68,12 +69,14 @@ class GridPainter {
 
     void paintColumnLines()
     {
-        canvas_.painter.setPen(faintLineColour().darker(112));
         double right = layout_.body.left();
         for (const GridColumn& column : columns_.columns) {
             right += column.width;
             const int x = static_cast<int>(std::lround(right)) - 1;
-            canvas_.painter.drawLine(x, layout_.header.top(), x, layout_.body.bottom());
+            canvas_.painter.setPen(frameColour());
+            canvas_.painter.drawLine(x, layout_.header.top(), x, layout_.header.bottom());
+            canvas_.painter.setPen(faintLineColour());
+            canvas_.painter.drawLine(x, layout_.body.top(), x, layout_.body.bottom());
         }
     }
 
@@ -98,8 +101,7 @@ class GridPainter {
             return column < row.columns.size() ? row.columns[column] : std::string();
         });
         if (!current) return;
-        painter.setPen(focusColour());
-        painter.drawRect(line.adjusted(0, 0, -1, -1));
+        painter.fillRect(line.left(), line.top(), currentRowMark, line.height(), focusColour());
     }
 
     Canvas& canvas_;
@@ -136,6 +138,12 @@ GridLayout layOutGrid(const app::ControlPicture& grid, const FormScale& scale)
     const app::GridRows& rows = *grid.grid->rows;
     layout.scrollBar = ScrollBar(bar, {rows.moreAbove, rows.moreBelow, rows.place});
     return layout;
+}
+
+GridColumns columnsOf(const app::ControlPicture& grid, const GridLayout& layout, const FormScale& scale, Fonts& fonts)
+{
+    const int wantedFontPixels = std::min(scale.fontPixels(grid.fontPoints), layout.rowHeight - 2);
+    return layOutColumns(grid, scale, fonts, layout.body.width(), wantedFontPixels);
 }
 
 void paintGrid(Canvas& canvas, const app::ControlPicture& grid, const GridLayout& layout)

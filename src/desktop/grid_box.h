@@ -3,6 +3,7 @@
 
 #include <optional>
 
+#include "desktop/grid_columns.h"
 #include "desktop/scroll_bar.h"
 
 namespace desktop {
@@ -20,6 +21,9 @@ struct GridLayout {
 };
 
 GridLayout layOutGrid(const app::ControlPicture& grid, const FormScale& scale);
+
+/// The columns as they are painted.
+GridColumns columnsOf(const app::ControlPicture& grid, const GridLayout& layout, const FormScale& scale, Fonts& fonts);
 
 void paintGrid(Canvas& canvas, const app::ControlPicture& grid, const GridLayout& layout);
 

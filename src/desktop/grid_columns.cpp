@@ -31,12 +31,28 @@ double widestText(const app::GridPicture& grid, std::size_t column, const QFontM
     return widest;
 }
 
-/// Widths of the form do not grow with the window, but the texts do.
+bool isNumber(const std::string& text)
+{
+    return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
+bool hasOnlyNumbers(const app::GridPicture& grid, std::size_t column)
+{
+    const std::vector<storage::Row>& rows = grid.rows->rows;
+    return !rows.empty() && std::all_of(rows.begin(), rows.end(), [column](const storage::Row& row) {
+        return column < row.columns.size() && isNumber(row.columns[column]);
+    });
+}
+
+/// Widths of the form do not grow with the window, but the texts do. What little room is then left is shared out too.
 void growWithWindow(std::vector<double>& widths, double designWidth, double room)
 {
+    constexpr double mostStretching = 1.3;
     const double width = sum(widths);
     if (width <= 0) return;
-    const double growth = std::max(1.0, std::min(room, designWidth) / width);
+    const double wanted = std::max(width, designWidth);
+    const double reached = room <= wanted * mostStretching ? room : wanted;
+    const double growth = std::max(1.0, reached / width);
     for (double& each : widths)
         each *= growth;
 }
@@ -91,7 +107,7 @@ GridColumns layOutColumns(const app::ControlPicture& grid, const FormScale& scal
     }
     const std::vector<double> shared = sharedWidths(widths, needs, room);
     for (std::size_t i = 0; i < seen.size(); ++i)
-        layout.columns.push_back({seen[i], shared[i]});
+        layout.columns.push_back({seen[i], shared[i], hasOnlyNumbers(*grid.grid, seen[i])});
     return layout;
 }
 

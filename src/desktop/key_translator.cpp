@@ -73,8 +73,11 @@ bool isThirdShift(const QKeyEvent& event, char32_t character)
 
 bool belongsToSystem(const QKeyEvent& event)
 {
-    const bool closesWindow = event.key() == Qt::Key_F4 && event.modifiers().testFlag(Qt::AltModifier);
-    return closesWindow || event.modifiers().testFlag(Qt::MetaModifier);
+    const bool alt = event.modifiers().testFlag(Qt::AltModifier);
+    const bool closesWindow = event.key() == Qt::Key_F4 && alt;
+    const bool composesCharacter =
+        alt && event.modifiers().testFlag(Qt::KeypadModifier) && isLetterOrDigit(event.key());
+    return closesWindow || composesCharacter || event.modifiers().testFlag(Qt::MetaModifier);
 }
 
 }  // namespace

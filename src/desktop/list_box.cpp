@@ -6,6 +6,21 @@
 
 namespace desktop {
 
+namespace {
+
+/// Rows for which a list has room. A low one would rather write a little smaller than show but one or two items.
+int rowsIn(int height, int rowHeight, int items)
+{
+    constexpr int leastRows = 3;
+    constexpr double mostSqueezing = 0.8;
+    const int rows = height / rowHeight;
+    const int least = std::min(items, leastRows);
+    if (rows < least && height >= least * rowHeight * mostSqueezing) return least;
+    return std::max(1, rows);
+}
+
+}  // namespace
+
 int ListLayout::itemAt(QPoint point) const
 {
     if (!body.contains(point)) return -1;
@@ -17,11 +32,12 @@ ListLayout layOutList(const app::ControlPicture& list, const FormScale& scale, i
 {
     ListLayout layout;
     layout.place = scale.pixels(list.place);
-    layout.body = layout.place.adjusted(2, 2, -2, -2);
+    const int edge = focusThickness(scale);
+    layout.body = layout.place.adjusted(edge, 2, -edge, -2);
     layout.items = static_cast<int>(list.items.size());
     const int wanted = scale.fontPixels(list.fontPoints);
-    layout.rowHeight = wanted + wanted / 3 + 1;
-    layout.capacity = std::max(1, layout.body.height() / layout.rowHeight);
+    layout.capacity = rowsIn(layout.body.height(), wanted + wanted / 5 + 1, layout.items);
+    layout.rowHeight = std::max(1, layout.body.height() / layout.capacity);
     const int lastTop = layout.lastTop();
     layout.top = std::clamp(top, 0, lastTop);
     if (lastTop == 0) return layout;
@@ -46,7 +62,7 @@ void paintList(Canvas& canvas, const app::ControlPicture& list, const ListLayout
     painter.fillRect(layout.place, toolkitColour(list.background));
     painter.setPen(edgeColour());
     painter.drawRect(layout.place.adjusted(0, 0, -1, -1));
-    if (list.hasFocus) paintFocus(canvas, layout.place);
+    painter.save();
     painter.setClipRect(layout.body, Qt::IntersectClip);
     const int last = std::min(layout.items, layout.top + layout.capacity);
     for (int item = layout.top; item < last; ++item) {
@@ -61,6 +77,8 @@ void paintList(Canvas& canvas, const app::ControlPicture& list, const ListLayout
     }
     painter.restore();
     if (!layout.scrollBar.place().isNull()) layout.scrollBar.paint(canvas);
+    if (list.hasFocus) paintFocus(canvas, layout.place);
+    painter.restore();
 }
 
 }  // namespace desktop

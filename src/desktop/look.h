@@ -3,6 +3,7 @@
 
 #include <QColor>
 #include <QPainter>
+#include <QPalette>
 
 #include "app/picture.h"
 #include "desktop/fonts.h"
@@ -30,13 +31,24 @@ QColor selectedTextColour();
 QColor currentRowColour();
 /// Lines around and between things.
 QColor edgeColour();
+QColor frameColour();
 QColor faintLineColour();
+/// Upon which buttons stand out from the form; whatever the program has coloured keeps its colour.
+QColor faceColourOf(const app::ControlPicture& button);
+
+/// The colours of menus and boxes: those of the desktop, but what is off keeps enough contrast to be read.
+QPalette readable(QPalette colours);
+
+/// Gives the application the style of its menus and boxes, and these colours.
+void styleApplication();
 
 /// The colour of the control's text: greyed when the control is off, but with enough contrast to its own background.
 QColor textColourOf(const app::ControlPicture& control);
 
-/// The frame around a control that has the focus.
+/// The frame around a control that has the focus: dark outside and white inside, to be seen on every ground.
 void paintFocus(Canvas& canvas, const QRect& place);
+/// Pixels that it takes on each side.
+int focusThickness(const FormScale& scale);
 
 /// Text in a box, at most `wanted` pixels high and as much smaller as the box asks for.
 void paintFittedText(Canvas& canvas, const QRectF& box, const QString& text, int wanted, bool bold, int flags);

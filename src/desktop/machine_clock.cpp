@@ -1,10 +1,9 @@
 #include "desktop/machine_clock.h"
 
 #include <QDateTime>
-#include <condition_variable>
-#include <mutex>
 
 #include "base/runtime_error.h"
+#include "desktop/deadline_sleep.h"
 
 namespace desktop {
 
@@ -29,11 +28,8 @@ platform::MonotonicTime MachineClock::monotonic() const
 
 void MachineClock::sleepUntil(platform::MonotonicTime deadline)
 {
-    // Nobody else knows these two, so that nothing but the end of the program comes in between.
-    std::mutex mutex;
-    std::condition_variable_any never;
-    std::unique_lock lock(mutex);
-    never.wait_until(lock, programStops_, std::chrono::steady_clock::time_point(deadline), [] { return false; });
+    sleepUntilDeadline(std::chrono::steady_clock::time_point(deadline), programStops_);
+    if (slept_) slept_();
     if (programStops_.stop_requested()) throw base::ProgramEnd{};
 }
 

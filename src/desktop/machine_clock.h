@@ -1,6 +1,7 @@
 // The clock of this computer.
 #pragma once
 
+#include <functional>
 #include <stop_token>
 #include <utility>
 
@@ -10,8 +11,11 @@ namespace desktop {
 
 class MachineClock final : public platform::Clock {
  public:
-    /// `programStops` ends a sleep early, with ProgramEnd.
-    explicit MachineClock(std::stop_token programStops = {}) : programStops_(std::move(programStops)) {}
+    /// `programStops` ends a sleep early, with ProgramEnd. `slept` is called behind every sleep.
+    explicit MachineClock(std::stop_token programStops = {}, std::function<void()> slept = {})
+        : programStops_(std::move(programStops)), slept_(std::move(slept))
+    {
+    }
 
     platform::LocalTime now() const override;
     std::chrono::milliseconds timeOfDay() const override;
@@ -20,6 +24,7 @@ class MachineClock final : public platform::Clock {
 
  private:
     std::stop_token programStops_;
+    std::function<void()> slept_;
 };
 
 }  // namespace desktop

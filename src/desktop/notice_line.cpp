@@ -1,10 +1,19 @@
 #include "desktop/notice_line.h"
 
 #include <QPainter>
+#include <algorithm>
 
+#include "desktop/accessible_news.h"
 #include "desktop/look.h"
 
 namespace desktop {
+
+namespace {
+
+/// Of the bar, in heights of the line.
+constexpr int barHeights = 9;
+
+}  // namespace
 
 NoticeLine::NoticeLine(QWidget* parent) : QWidget(parent)
 {
@@ -17,6 +26,15 @@ void NoticeLine::setNotice(const QString& notice)
     notice_ = notice;
     setToolTip(notice);
     update();
+    if (isReadOut()) tellNotice(*this);
+}
+
+void NoticeLine::setProgress(const std::optional<ProgressShown>& progress)
+{
+    if (progress == progress_) return;
+    progress_ = progress;
+    update();
+    Q_EMIT progressChanged();
 }
 
 QSize NoticeLine::sizeHint() const
@@ -30,10 +48,25 @@ void NoticeLine::paintEvent(QPaintEvent*)
     painter.fillRect(rect(), formColour());
     painter.setPen(faintLineColour());
     painter.drawLine(rect().topLeft(), rect().topRight());
+    QRect room = rect().adjusted(6, 1, -6, 0);
+    if (progress_ && progress_->share) room = paintBar(painter, room);
     painter.setPen(QColor(70, 70, 70));
-    const QRect room = rect().adjusted(6, 1, -6, 0);
     painter.drawText(room, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
-                     fontMetrics().elidedText(notice_, Qt::ElideRight, room.width()));
+                     fontMetrics().elidedText(progress_ ? progress_->text : notice_, Qt::ElideRight, room.width()));
+}
+
+/// The bar stands in front of the text, so that it stays where it is while the text grows. Returns the room behind it.
+QRect NoticeLine::paintBar(QPainter& painter, const QRect& room) const
+{
+    constexpr int margin = 4;
+    const int width = std::min(room.width() / 3, barHeights * room.height());
+    const QRect bar(room.left(), room.top() + margin, width, room.height() - 2 * margin);
+    const int filled = static_cast<int>(std::clamp(*progress_->share, 0.0, 1.0) * bar.width());
+    painter.fillRect(bar, Qt::white);
+    painter.fillRect(QRect(bar.topLeft(), QSize(filled, bar.height())), selectionColour());
+    painter.setPen(edgeColour());
+    painter.drawRect(bar.adjusted(0, 0, -1, -1));
+    return room.adjusted(width + 2 * margin, 0, 0, 0);
 }
 
 }  // namespace desktop

@@ -1,9 +1,17 @@
-// The quiet line at the foot of the window.
+// The quiet line at the foot of the window: the last notice, or how far long work has come.
 #pragma once
 
 #include <QWidget>
+#include <optional>
 
 namespace desktop {
+
+/// What is to be seen of long work.
+struct ProgressShown {
+    QString text;
+    std::optional<double> share = {};  ///< of the work that is done, from 0 to 1; nothing when nobody knows
+    bool operator==(const ProgressShown&) const = default;
+};
 
 class NoticeLine final : public QWidget {
     Q_OBJECT
@@ -14,13 +22,24 @@ class NoticeLine final : public QWidget {
     void setNotice(const QString& notice);
     const QString& notice() const { return notice_; }
 
+    /// Shows work in the place of the notice, with a bar where its share is known; nothing gives the notice back.
+    void setProgress(const std::optional<ProgressShown>& progress);
+    const std::optional<ProgressShown>& progress() const { return progress_; }
+
     QSize sizeHint() const override;
+
+ Q_SIGNALS:
+    /// Other work, or none, is shown now.
+    void progressChanged();
 
  protected:
     void paintEvent(QPaintEvent* event) override;
 
  private:
+    QRect paintBar(QPainter& painter, const QRect& room) const;
+
     QString notice_;
+    std::optional<ProgressShown> progress_;
 };
 
 }  // namespace desktop

@@ -11,7 +11,7 @@ namespace {
 
 bool sameRose(const screen::Rose& a, const screen::Rose& b)
 {
-    return a.visible == b.visible && a.X0 == b.X0 && a.Y0 == b.Y0 && a.R == b.R;
+    return a.visible == b.visible && a.X0 == b.X0 && a.Y0 == b.Y0 && a.R == b.R && a.heading == b.heading;
 }
 
 }  // namespace
@@ -26,9 +26,9 @@ bool looksSame(const app::ControlPicture& a, const app::ControlPicture& b)
     return a.kind == b.kind && a.place == b.place && a.text == b.text && a.background == b.background &&
            a.foreground == b.foreground && a.fontPoints == b.fontPoints && a.bold == b.bold && a.enabled == b.enabled &&
            a.hasFocus == b.hasFocus && a.checked == b.checked && a.rightAligned == b.rightAligned &&
-           a.selStart == b.selStart && a.selLength == b.selLength && a.caret == b.caret && a.items == b.items &&
-           a.listIndex == b.listIndex && a.grid == b.grid && a.X1 == b.X1 && a.Y1 == b.Y1 && a.X2 == b.X2 &&
-           a.Y2 == b.Y2;
+           a.heads == b.heads && a.selStart == b.selStart && a.selLength == b.selLength && a.caret == b.caret &&
+           a.items == b.items && a.listIndex == b.listIndex && a.grid == b.grid && a.X1 == b.X1 && a.Y1 == b.Y1 &&
+           a.X2 == b.X2 && a.Y2 == b.Y2;
 }
 
 bool sameForm(const app::Picture& a, const app::Picture& b)
@@ -52,9 +52,12 @@ QRegion changedRegion(const app::Picture& before, const app::Picture& after, con
     }
     for (const auto& [control, picture] : gone)
         changed += placeOfControl(*picture, scale);
-    if (!sameRose(before.rose, after.rose)) {
-        if (before.rose.visible) changed += placeOfRose(before.rose, scale);
-        if (after.rose.visible) changed += placeOfRose(after.rose, scale);
+    const double dialBefore = radiusOfDial(before, scale);
+    const double dialAfter = radiusOfDial(after, scale);
+    const bool sameNeedle = needleIsSeen(before) == needleIsSeen(after);
+    if (!sameRose(before.rose, after.rose) || dialBefore != dialAfter || !sameNeedle) {
+        if (before.rose.visible) changed += placeOfRose(before.rose, dialBefore, scale);
+        if (after.rose.visible) changed += placeOfRose(after.rose, dialAfter, scale);
     }
     return changed;
 }

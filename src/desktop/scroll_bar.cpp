@@ -103,7 +103,8 @@ void ScrollBar::paint(Canvas& canvas) const
 {
     QPainter& painter = canvas.painter;
     painter.save();
-    painter.fillRect(place_, QColor(226, 226, 226));
+    painter.fillRect(place_, QColor(236, 238, 241));
+    if (!rows_.moreAbove && !rows_.moreBelow) return painter.restore();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     for (ScrollPart part : buttons) {

@@ -1,21 +1,31 @@
-// Finding the device that a serial port is, and switching its lines.
+// A serial device, by the two lines that matter, and finding the one that a port number means.
 #pragma once
 
-#include <QSerialPort>
 #include <memory>
 #include <string>
 
 namespace desktop {
 
-/// Opens port `number` (from 1), its lines down at once and sure to fall when the process ends in whatever way. It is
-/// COMN on Windows; elsewhere what the link COMN in `programFolder` leads to, and without such a link the first of
-/// ttyS, ttyUSB and ttyACM that opens and answers for its lines. Error 8002, with the reason, when there is none.
-std::unique_ptr<QSerialPort> openPort(int number, const std::string& programFolder);
+/// The key is DTR, the transmitter RTS.
+enum class SerialLine { key, transmitter };
 
-/// Switches one of the two lines. False when the device does not answer any more.
-bool switchLine(QSerialPort& device, QSerialPort::PinoutSignal line, bool on);
+/// A device that is open. Both lines fall when it is destroyed, and when the process ends in whatever way.
+class SerialDevice {
+ public:
+    virtual ~SerialDevice() = default;
+    /// Switches a line. False when the device does not answer any more.
+    virtual bool switchLine(SerialLine line, bool on) = 0;
+};
 
 /// Drops both lines. False when the device does not answer any more.
-bool dropLines(QSerialPort& device);
+bool dropLines(SerialDevice& device);
+
+/// Opens port `number` (from 1) with 19200 bits a second, no parity, 8 bits and one stop bit, its lines down at once.
+/// It is COMN on Windows; elsewhere what the link COMN in `programFolder` leads to, and without such a link the first
+/// of ttyS, ttyUSB and ttyACM that opens and answers for its lines. Error 8002, with the reason, when there is none.
+std::unique_ptr<SerialDevice> openPort(int number, const std::string& programFolder);
+
+/// The part of openPort() that each system has a driver for. `number` is 1 or more.
+std::unique_ptr<SerialDevice> openSystemPort(int number, const std::string& programFolder);
 
 }  // namespace desktop

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "base/runtime_error.h"
-#include "desktop/serial_device.h"
 
 namespace desktop {
 
@@ -36,18 +35,18 @@ bool SerialLines::stillAnswers(int number)
 
 void SerialLines::setDtr(bool on)
 {
-    set(QSerialPort::DataTerminalReadySignal, on);
+    set(SerialLine::key, on);
 }
 
 void SerialLines::setRts(bool on)
 {
-    set(QSerialPort::RequestToSendSignal, on);
+    set(SerialLine::transmitter, on);
 }
 
-void SerialLines::set(QSerialPort::PinoutSignal line, bool on)
+void SerialLines::set(SerialLine line, bool on)
 {
     if (!inUse_) throw base::RuntimeError(base::existsOrNoAccess, "The serial port is not open");
-    if (switchLine(*device_, line, on)) return;
+    if (device_->switchLine(line, on)) return;
     forgetDevice();
     throw base::RuntimeError(base::existsOrNoAccess, "The serial port went away in the middle of a message");
 }

@@ -4,12 +4,12 @@
 // moment. Before the first message nothing is touched. However the process ends, the system drops the lines with it.
 #pragma once
 
-#include <QSerialPort>
 #include <memory>
 #include <optional>
 #include <string>
 
 #include "desktop/keying_priority.h"
+#include "desktop/serial_device.h"
 #include "platform/machine.h"
 
 namespace desktop {
@@ -32,12 +32,12 @@ class SerialLines final : public platform::SerialPort {
  private:
     /// The device of the last message may serve again.
     bool stillAnswers(int number);
-    void set(QSerialPort::PinoutSignal line, bool on);
+    void set(SerialLine line, bool on);
     void forgetDevice() noexcept;
 
     std::string programFolder_;
-    std::unique_ptr<QSerialPort> device_;  ///< stays open between messages
-    int number_ = 0;                       ///< of the port that the device is
+    std::unique_ptr<SerialDevice> device_;  ///< stays open between messages
+    int number_ = 0;                        ///< of the port that the device is
     bool inUse_ = false;
     std::optional<KeyingPriority> priority_;  ///< while in use
 };

@@ -1,7 +1,10 @@
 #include "desktop/simple_controls.h"
 
+#include <QRegularExpression>
+#include <QStringList>
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "desktop/characters.h"
 
@@ -10,6 +13,8 @@ namespace desktop {
 namespace {
 
 constexpr int lineWidth = 2;
+constexpr double titleTwips = 120;  ///< from the left edge of a frame to its title
+constexpr double titleHeight = 15;  ///< of a frame on the design screen, pixels: below it stands what the frame holds
 
 /// A caption beside the mark of an option or a check box, on the background of the control.
 struct MarkedCaption {
@@ -32,6 +37,38 @@ MarkedCaption paintCaptionBesideMark(Canvas& canvas, const app::ControlPicture& 
     return {place, mark};
 }
 
+/// A long run of blanks in a text of several lines is where a line ends.
+QString withLineEnds(QString text)
+{
+    static const QRegularExpression longRun(QStringLiteral(" {5,}"));
+    return text.replace(longRun, QStringLiteral("\n"));
+}
+
+/// The words of a caption, each above the field that it heads, all in one size.
+void paintHeads(Canvas& canvas, const app::ControlPicture& label, const QStringList& words)
+{
+    constexpr int flags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine;
+    const QRect place = canvas.scale.pixels(label.place);
+    std::vector<QRectF> rooms;
+    int pixels = canvas.scale.fontPixels(label.fontPoints);
+    for (qsizetype i = 0; i < words.size(); ++i) {
+        const QRect below = canvas.scale.pixels(label.heads[static_cast<std::size_t>(i)]);
+        rooms.emplace_back(below.left() + 1, place.top(), below.width() - 2, place.height());
+        pixels = canvas.fonts.fitting(words[i], rooms.back().size(), pixels, label.bold, flags);
+    }
+    canvas.painter.setFont(canvas.fonts.font(pixels, label.bold));
+    for (qsizetype i = 0; i < words.size(); ++i)
+        canvas.painter.drawText(rooms[static_cast<std::size_t>(i)], flags, words[i]);
+}
+
+/// A lamp: nothing but a colour.
+void paintLamp(Canvas& canvas, const QRect& place, const QColor& colour)
+{
+    canvas.painter.fillRect(place, colour);
+    canvas.painter.setPen(colour.darker(125));
+    canvas.painter.drawRect(place.adjusted(0, 0, -1, -1));
+}
+
 QColor markBackground(const app::ControlPicture& control, bool pressed)
 {
     if (pressed) return {208, 208, 208};
@@ -43,34 +80,42 @@ QColor markBackground(const app::ControlPicture& control, bool pressed)
 void paintLabel(Canvas& canvas, const app::ControlPicture& label)
 {
     const QRect place = canvas.scale.pixels(label.place);
-    const QString text = toolkitText(label.text);
-    // A label that says nothing shall not blot out the field that its place reaches into.
-    if (text.trimmed().isEmpty() && label.background == screen::buttonFace) return;
+    const QString text = toolkitText(label.text).trimmed();
+    if (text.isEmpty()) {
+        // A label that says nothing shall not blot out the field that its place reaches into.
+        if (label.background != screen::buttonFace) paintLamp(canvas, place, toolkitColour(label.background));
+        return;
+    }
     canvas.painter.fillRect(place, toolkitColour(label.background));
     canvas.painter.setPen(textColourOf(label));
+    const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    if (!label.heads.empty() && label.heads.size() == static_cast<std::size_t>(words.size()))
+        return paintHeads(canvas, label, words);
     const int wanted = canvas.scale.fontPixels(label.fontPoints);
     const bool oneLine = place.height() < 2 * canvas.fonts.metrics(wanted, label.bold).height();
     const int across = label.rightAligned ? Qt::AlignRight : Qt::AlignLeft;
     const int down = oneLine ? Qt::AlignVCenter : Qt::AlignTop;
-    paintFittedText(canvas, QRectF(place).adjusted(1, 0, -1, 0), text, wanted, label.bold,
-                    across | down | Qt::TextWordWrap);
+    paintFittedText(canvas, QRectF(place).adjusted(1, 0, -1, 0), oneLine ? text : withLineEnds(text), wanted,
+                    label.bold, across | down | Qt::TextWordWrap);
 }
 
 void paintCommandButton(Canvas& canvas, const app::ControlPicture& button, bool pressed)
 {
     QPainter& painter = canvas.painter;
     const QRect place = canvas.scale.pixels(button.place);
-    const QColor face = toolkitColour(button.background);
+    const QColor face = faceColourOf(button);
     painter.fillRect(place, pressed ? face.darker(118) : face);
-    painter.setPen(pressed ? face.darker(170) : face.lighter(112));
-    painter.drawRect(place.adjusted(1, 1, -2, -2));
-    painter.setPen(edgeColour());
+    painter.setPen(button.enabled ? edgeColour() : frameColour());
     painter.drawRect(place.adjusted(0, 0, -1, -1));
+    if (button.enabled && !pressed) {
+        painter.setPen(face.darker(122));
+        painter.drawLine(place.left() + 1, place.bottom() - 1, place.right() - 1, place.bottom() - 1);
+    }
     if (button.hasFocus) paintFocus(canvas, place);
     painter.setPen(textColourOf(button));
     const QRectF room = QRectF(place).adjusted(4, 2, -4, -2).translated(pressed ? 1 : 0, pressed ? 1 : 0);
-    paintFittedText(canvas, room, toolkitText(button.text), canvas.scale.fontPixels(button.fontPoints), button.bold,
-                    Qt::AlignCenter | Qt::TextWordWrap | Qt::TextShowMnemonic);
+    paintFittedText(canvas, room, toolkitText(button.text).trimmed(), canvas.scale.fontPixels(button.fontPoints),
+                    button.bold, Qt::AlignCenter | Qt::TextWordWrap | Qt::TextShowMnemonic);
 }
 
 void paintOptionButton(Canvas& canvas, const app::ControlPicture& option, bool pressed)
@@ -116,23 +161,17 @@ void paintFrame(Canvas& canvas, const app::ControlPicture& frame)
     QPainter& painter = canvas.painter;
     const QRect place = canvas.scale.pixels(frame.place);
     painter.fillRect(place, toolkitColour(frame.background));
-    const QString caption = toolkitText(frame.text);
-    constexpr int flags = Qt::AlignCenter | Qt::TextSingleLine | Qt::TextShowMnemonic;
-    const int wanted = canvas.scale.fontPixels(frame.fontPoints);
-    const QRectF room(place.left() + 8, place.top(), std::max(1, place.width() - 16), wanted * 1.4);
-    const int pixels = canvas.fonts.fitting(caption, room.size(), wanted, frame.bold, flags);
-    const QFontMetricsF& metrics = canvas.fonts.metrics(pixels, frame.bold);
+    painter.setPen(frameColour());
+    painter.drawRect(place.adjusted(0, 0, -1, -1));
 
-    const int lineTop = caption.trimmed().isEmpty() ? 0 : static_cast<int>(metrics.height() / 2);
-    painter.setPen(QColor(160, 160, 160));
-    painter.drawRect(place.adjusted(0, lineTop, -1, -1));
-    if (caption.trimmed().isEmpty()) return;
-    const double width = metrics.size(flags, caption).width() + 6;
-    const QRectF text(room.left(), room.top(), width, metrics.height());
-    painter.fillRect(text, toolkitColour(frame.background));
-    painter.setFont(canvas.fonts.font(pixels, frame.bold));
+    constexpr int flags = Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine | Qt::TextShowMnemonic;
+    const int wanted = canvas.scale.fontPixels(frame.fontPoints);
+    const int margin = static_cast<int>(std::lround(canvas.scale.designX(titleTwips)));
+    const int above = canvas.scale.designPixels(1.5);
+    const QRectF room(place.left() + margin, place.top() + above, std::max(1, place.width() - 2 * margin),
+                      canvas.scale.designPixels(titleHeight) - above);
     painter.setPen(textColourOf(frame));
-    painter.drawText(text, flags, caption);
+    paintFittedText(canvas, room, toolkitText(frame.text).trimmed(), wanted, frame.bold, flags);
 }
 
 void paintLine(Canvas& canvas, const app::ControlPicture& line)

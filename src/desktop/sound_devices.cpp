@@ -7,6 +7,7 @@
 #include "base/runtime_error.h"
 #include "desktop/sound_player.h"
 #include "platform/files.h"
+#include "platform/progress.h"
 #include "platform/sound_file.h"
 
 namespace desktop {
@@ -20,8 +21,25 @@ constexpr auto patience = 1s;
 
 }  // namespace
 
-SoundDevices::SoundDevices(platform::Notices& notices, std::stop_token programStops)
-    : notices_(notices), programStops_(std::move(programStops))
+/// The devices as they are counted on a thread of its own.
+class SoundDevices::Count {
+ public:
+    /// Their number, 0 when nothing is heard of them in time.
+    int wait(const std::stop_token& programStops)
+    {
+        return job_.wait(patience, programStops) == SoundJob::Outcome::done ? *number_ : 0;
+    }
+
+ private:
+    std::shared_ptr<int> number_ = std::make_shared<int>(0);
+    SoundJob job_{[number = number_](const std::stop_token&) {
+        *number = playingDevices();
+        return std::string();
+    }};
+};
+
+SoundDevices::SoundDevices(platform::Notices& notices, std::stop_token programStops, std::function<void()> played)
+    : notices_(notices), programStops_(std::move(programStops)), played_(std::move(played))
 {
 }
 
@@ -30,14 +48,15 @@ SoundDevices::~SoundDevices()
     if (latest_) latest_->stop(patience);
 }
 
+void SoundDevices::countAhead()
+{
+    ahead_ = std::make_unique<Count>();
+}
+
 int SoundDevices::outputDevices() const
 {
-    const auto count = std::make_shared<int>(0);
-    SoundJob job([count](const std::stop_token&) {
-        *count = playingDevices();
-        return std::string();
-    });
-    return job.wait(patience, programStops_) == SoundJob::Outcome::done ? *count : 0;
+    const std::unique_ptr<Count> count = ahead_ ? std::move(ahead_) : std::make_unique<Count>();
+    return count->wait(programStops_);
 }
 
 void SoundDevices::play(const std::string& path)
@@ -46,10 +65,7 @@ void SoundDevices::play(const std::string& path)
     if (!sound) return;
     if (latest_ && !latest_->stop(0s)) return notices_.notice("The sound device still hangs from the message before");
 
-    const auto limit = sound->length + patience;
-    latest_ = std::make_shared<SoundJob>(
-        [sound = std::move(*sound)](const std::stop_token& stopped) { return playSound(sound, stopped); });
-    switch (latest_->wait(limit, programStops_)) {
+    switch (playToItsEnd(std::move(*sound))) {
         case SoundJob::Outcome::done:
             if (!latest_->failure().empty()) notices_.notice(latest_->failure());
             return;
@@ -58,6 +74,18 @@ void SoundDevices::play(const std::string& path)
         case SoundJob::Outcome::stopped:
             throw base::ProgramEnd{};
     }
+}
+
+SoundJob::Outcome SoundDevices::playToItsEnd(platform::SoundFile sound)
+{
+    const auto limit = sound.length + patience;
+    // The form says itself that a message goes out.
+    const platform::LongWork nothingToShow("");
+    latest_ = std::make_shared<SoundJob>(
+        [sound = std::move(sound)](const std::stop_token& stopped) { return playSound(sound, stopped); });
+    const SoundJob::Outcome outcome = latest_->wait(limit, programStops_);
+    if (played_) played_();
+    return outcome;
 }
 
 }  // namespace desktop

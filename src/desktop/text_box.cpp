@@ -60,19 +60,21 @@ TextBoxLayout layOutTextBox(const app::ControlPicture& box, const FormScale& sca
 {
     TextBoxLayout layout;
     layout.place = scale.pixels(box.place);
-    const int edge = std::max(2, scale.designPixels(2));
-    layout.inner = QRectF(layout.place).adjusted(edge + 2, edge, -edge - 1, -edge);
+    const int edge = focusThickness(scale);
+    layout.inner = QRectF(layout.place).adjusted(edge + 2, 1, -edge - 1, -1);  // capitals leave room above and below
+    layout.face = box.inputMethod ? Face::text : Face::code;
     layout.text = toolkitText(box.text);
     layout.starts = characterStarts(layout.text);
 
     const int highest = fonts.fitting(QStringLiteral("X"), layout.inner.size(), scale.fontPixels(box.fontPoints),
-                                      box.bold, Qt::TextSingleLine);
+                                      box.bold, Qt::TextSingleLine, layout.face);
     const int lowest = std::max(smallestFontPixels, static_cast<int>(std::ceil(highest * leastShrinking)));
     layout.fontPixels = highest;
     while (layout.fontPixels > lowest &&
-           fonts.metrics(layout.fontPixels, box.bold).horizontalAdvance(layout.text) + 1 > layout.inner.width())
+           fonts.metrics(layout.fontPixels, box.bold, layout.face).horizontalAdvance(layout.text) + 1 >
+               layout.inner.width())
         --layout.fontPixels;
-    layout.edges = characterEdges(layout, fonts.metrics(layout.fontPixels, box.bold));
+    layout.edges = characterEdges(layout, fonts.metrics(layout.fontPixels, box.bold, layout.face));
     layout.offset = box.hasFocus ? scrolledOffset(layout, box.caret, offset) : 0;
     return layout;
 }
@@ -81,16 +83,16 @@ void paintTextBox(Canvas& canvas, const app::ControlPicture& box, const TextBoxL
 {
     QPainter& painter = canvas.painter;
     painter.fillRect(layout.place, toolkitColour(box.background));
-    painter.setPen(edgeColour());
+    painter.setPen(box.enabled ? edgeColour() : frameColour());
     painter.drawRect(layout.place.adjusted(0, 0, -1, -1));
     if (box.hasFocus) paintFocus(canvas, layout.place);
 
     painter.save();
     painter.setClipRect(layout.inner.adjusted(-1, 0, 1, 0), Qt::IntersectClip);
-    const QFontMetricsF& metrics = canvas.fonts.metrics(layout.fontPixels, box.bold);
+    const QFontMetricsF& metrics = canvas.fonts.metrics(layout.fontPixels, box.bold, layout.face);
     const double top = layout.inner.center().y() - metrics.height() / 2;
     const QPointF baseLine(layout.inner.left() - layout.offset, std::round(top + metrics.ascent()));
-    painter.setFont(canvas.fonts.font(layout.fontPixels, box.bold));
+    painter.setFont(canvas.fonts.font(layout.fontPixels, box.bold, layout.face));
     painter.setPen(textColourOf(box));
     painter.drawText(baseLine, layout.text);
 

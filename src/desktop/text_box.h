@@ -14,6 +14,7 @@ struct TextBoxLayout {
     QRect place;
     QRectF inner;  ///< where text can stand, pixels of the window
     int fontPixels = 0;
+    Face face = Face::text;
     QString text;
     std::vector<qsizetype> starts;  ///< of every character in `text`, and the end of the text
     std::vector<double> edges;      ///< left edge of every character from the start of the text, and the end of it

@@ -1,6 +1,7 @@
 #include "platform/files.h"
 
 #include <algorithm>
+#include <iterator>
 #include <system_error>
 #include <utility>
 
@@ -15,9 +16,9 @@ namespace {
 
 fs::path nativePath(std::string_view designPath)
 {
-    std::u8string text(designPath.begin(), designPath.end());
-    std::replace(text.begin(), text.end(), u8'\\', static_cast<char8_t>('/'));
-    return fs::path(text);
+    std::string text(designPath);
+    std::replace(text.begin(), text.end(), '\\', '/');
+    return pathFrom(text);
 }
 
 /// The entry of `folder` whose name is `name` but for case; `name` itself when there is none.
@@ -28,6 +29,22 @@ fs::path entryIgnoringCase(const fs::path& folder, const fs::path& name)
         if (base::equalIgnoringCase(pathText(entry->path().filename()), pathText(name)))
             return entry->path().filename();
     return name;
+}
+
+/// Names that one of the systems keeps for its devices, whatever extension follows.
+bool isNameOfDevice(std::string_view name)
+{
+    constexpr std::string_view devices[] = {"CON", "PRN", "AUX", "NUL", "CONIN$", "CONOUT$"};
+    constexpr std::string_view numbered[] = {"COM", "LPT"};
+    constexpr std::string_view numbers[] = {"1", "2", "3", "4", "5", "6", "7", "8", "9", "¹", "²", "³"};
+    const std::string stem = base::upper(base::trim(name.substr(0, name.find('.'))));
+    const auto isStem = [&](std::string_view device) { return stem == device; };
+    const auto isNumbered = [&](std::string_view device) {
+        return stem.starts_with(device) && std::find(std::begin(numbers), std::end(numbers),
+                                                     std::string_view(stem).substr(device.size())) != std::end(numbers);
+    };
+    return std::any_of(std::begin(devices), std::end(devices), isStem) ||
+           std::any_of(std::begin(numbered), std::end(numbered), isNumbered);
 }
 
 /// Two names that differ in case alone have an order too, so that a folder reads the same every time.
@@ -112,7 +129,15 @@ bool isFileName(std::string_view name)
         return character < ' ' ||
                std::string_view("\\/:*?\"<>|").find(static_cast<char>(character)) != std::string_view::npos;
     };
-    return !name.empty() && std::none_of(name.begin(), name.end(), isForbidden);
+    if (name.empty() || std::any_of(name.begin(), name.end(), isForbidden)) return false;
+    // One of the systems drops these in silence: the file would not be found under its name.
+    if (name.ends_with('.') || name.ends_with(' ')) return false;
+    return !isNameOfDevice(name);
+}
+
+fs::path pathFrom(std::string_view text)
+{
+    return {std::u8string(text.begin(), text.end())};
 }
 
 std::string pathText(const fs::path& path)

@@ -35,8 +35,12 @@ FolderContents readFolder(std::string_view designPath);
 /// The folder that a folder is in; the same one at the root of a volume. `designPath` as for resolve().
 std::string folderAbove(std::string_view designPath);
 
-/// True when a file can bear this name on every system that the program runs on. A path is no name.
+/// True when a file can bear this name on every system that the program runs on. A path is no name, nor is that of a
+/// device, such as CON.txt.
 bool isFileName(std::string_view name);
+
+/// A native path from UTF-8 text.
+std::filesystem::path pathFrom(std::string_view text);
 
 /// A native path as UTF-8 text.
 std::string pathText(const std::filesystem::path& path);

@@ -5,6 +5,7 @@
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "platform/files.h"
+#include "platform/keys.h"
 #include "platform/machine.h"
 #include "review/folders.h"
 #include "review/output_modes.h"
@@ -47,6 +48,11 @@ void showFolder(const std::string& folder)
 void browse(const std::string& folder)
 {
     base::quietly<base::noSuchFolder, base::existsOrNoAccess>([&] { showFolder(folder); });
+}
+
+void goUp()
+{
+    browse(platform::folderAbove(FrmAnzeigen.DirListPath));
 }
 
 /// All three lists as they begin: the drive of the program, and its archives.
@@ -174,8 +180,13 @@ void DrvList_Click()
 void DirList_Click()
 {
     const std::string chosen = FrmAnzeigen.DirList.Text();
-    if (chosen == oneUp) return browse(platform::folderAbove(FrmAnzeigen.DirListPath));
+    if (chosen == oneUp) return goUp();
     browse(inFolder(FrmAnzeigen.DirListPath, chosen));
+}
+
+void DirList_KeyDown(int& KeyCode)
+{
+    if (KeyCode == platform::keyBackspace) goUp();
 }
 
 void FilList_Click()

@@ -18,6 +18,9 @@ void DrvList_Click();
 /// Into a folder, or back to the one above.
 void DirList_Click();
 
+/// Backspace leads to the folder above.
+void DirList_KeyDown(int& KeyCode);
+
 /// The name of a file into the box, with its extension.
 void FilList_Click();
 

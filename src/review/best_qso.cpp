@@ -4,6 +4,7 @@
 
 #include "base/number.h"
 #include "base/runtime_error.h"
+#include "platform/progress.h"
 #include "review/log_view.h"
 #include "review/output_modes.h"
 #include "review/row_record.h"
@@ -57,7 +58,9 @@ void walk(base::ResumeNext& go, const LogView& log, FirstDay firstDay, Best& bes
 {
     storage::RecordSet& rows = (FrmAnzeigen.*log.data).Recordset;
     countRows(go, log);
+    platform::LongWork work("Recount", FrmAnzeigen.RecCount);
     for (std::int16_t row = 0; row < FrmAnzeigen.RecCount; ++row) {
+        work.done(row);
         FrmAnzeigen.LogRec.Nr = base::toText(row + 1);
         go([&] { readBandRow(rows); });
         if (row == 0 && firstDay == FirstDay::taken) FrmAnzeigen.TxtTDate1.Text = FrmAnzeigen.LogRec.Data.get();

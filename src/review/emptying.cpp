@@ -2,6 +2,7 @@
 
 #include "base/number.h"
 #include "base/runtime_error.h"
+#include "platform/progress.h"
 #include "review/log_view.h"
 #include "review/page.h"
 #include "review/reset.h"
@@ -137,6 +138,7 @@ void Message()
 void Ja()
 {
     base::ResumeNext go;
+    const platform::LongWork work("Emptying the log");
     go([] { Modul1.DbLog = storage::OpenDatabase(storage::logDatabasePath()); });
     if (Modul1.ConcId == runstate::maratonContest)
         emptyMaratonLog(go);

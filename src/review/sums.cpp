@@ -3,6 +3,7 @@
 #include "band/maraton_totals.h"
 #include "base/number.h"
 #include "base/runtime_error.h"
+#include "platform/progress.h"
 #include "review/log_view.h"
 #include "runstate/modul1.h"
 #include "runstate/question.h"
@@ -45,8 +46,11 @@ void sum(const LogView& log)
     go(table.layOut);
     long count = 0;
     go([&] { count = rows.RecordCount(); });
-    for (long row = 0; row < count; ++row)
+    platform::LongWork work("Recount", count);
+    for (long row = 0; row < count; ++row) {
+        work.done(row);
         addRow(go, rows, points);
+    }
     go([&] { Modul1.*table.Qso = base::toInt16(static_cast<long long>(count)); });
     go([&] { rows.MoveLast(); });
     showSum(points, count);

@@ -11,6 +11,7 @@
 #include "base/text.h"
 #include "platform/files.h"
 #include "platform/machine.h"
+#include "platform/progress.h"
 #include "review/contest_name.h"
 #include "review/edi_header.h"
 #include "review/log_lines.h"
@@ -78,6 +79,13 @@ bool toPaper()
     return FrmAnzeigen.OutMode == toPrinter;
 }
 
+/// What the operator sees of a long log on its way.
+const char* wordForProgress()
+{
+    if (toPaper()) return "Print";
+    return FrmAnzeigen.OutMode == toArchive ? "Archive" : "Export";
+}
+
 bool textToPlace()
 {
     return toPlace() && FrmAnzeigen.OutFormat == asText;
@@ -127,7 +135,9 @@ class RowWriter {
     std::int16_t write(const std::string& source, Read&& read, MakeLine&& line)
     {
         const std::int16_t count = openRows(source);
+        platform::LongWork work(wordForProgress(), count);
         for (int row = 1; row <= count; ++row) {
+            work.done(row);
             FrmAnzeigen.LogRec.Nr = base::toText(row);
             if (!reads([&] { read(data_.Recordset); })) break;
             if (FrmAnzeigen.OutMode == toArchive && FrmAnzeigen.ArhFormat == archiveAsAdif)

@@ -19,7 +19,8 @@ constexpr Colour red{255, 0, 0};       ///< of the call: a duplicate or the own 
 constexpr Colour green{0, 255, 0};     ///< of the call: clean
 constexpr Colour lampOff{192, 192, 192};
 constexpr Colour lampOn{128, 0, 128};
-constexpr Colour grey = lampOff;  ///< a field that the program fills in
+constexpr Colour grey = lampOff;      ///< a field that the program fills in
+constexpr Colour warning{176, 0, 0};  ///< a text that shall not be overlooked; readable on the button face
 constexpr Colour buttonFace{240, 240, 240};
 
 }  // namespace screen

@@ -68,6 +68,7 @@ struct Control {
     bool Visible = true;
     bool Enabled = true;
     bool TabStop = false;
+    char32_t accessKey = 0;  ///< capital or digit that clicks it with Alt where its caption marks none, 0 for none
     Colour BackColor = buttonFace;
     Colour ForeColor = black;
     std::string ToolTipText;
@@ -146,6 +147,7 @@ struct Label : Control {
     Label(Form* form, const char* name, Control* container = nullptr);
     std::string Caption;
     bool rightAligned = false;
+    std::vector<const Control*> heads;  ///< what its words stand above, word by word; without those not seen
 };
 
 struct CommandButton : Control {
@@ -190,7 +192,8 @@ struct Frame : Control {
 struct ListBox : Control {
     ListBox(Form* form, const char* name, Control* container = nullptr);
     std::vector<std::string> items;
-    int ListIndex = -1;  ///< selected item from 0, -1 for none
+    int ListIndex = -1;        ///< selected item from 0, -1 for none
+    bool choiceClicks = true;  ///< an item that a key chooses is clicked; if not, it waits for Enter
 
     void Clear();
     void AddItem(const std::string& item);

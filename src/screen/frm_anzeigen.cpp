@@ -1,5 +1,6 @@
 #include "screen/frm_anzeigen.h"
 
+#include "screen/access_keys.h"
 #include "screen/frm_anzeigen_places.h"
 #include "screen/placing.h"
 
@@ -23,17 +24,21 @@ FrmAnzeigenForm::FrmAnzeigenForm() : Form("FrmAnzeigen")
     placeEdiStation();
     placeEdiClaims();
     placeStation();
+    giveAccessKeys(*this);
     makeParkingPlace(TxtFoc);
     stopTabEverywhere(*this);
 }
 
 void FrmAnzeigenForm::takeMaratonPlaces()
 {
-    put({{DBGrid9, review_places::maratonLog}});
-    for (Frame* frame : {&Frame1, &Frame2, &Frame3, &Frame4, &Frame5, &Frame8, &FraArh}) {
-        const Rectangle& at = frame->design;
-        frame->place(review_places::maratonJobLeft, at.Top, at.Width, at.Height);
-    }
+    using namespace review_places;
+    put({{DBGrid9, maratonLog}});
+    for (Frame* frame : {&Frame1, &Frame2, &Frame3, &Frame8})
+        frame->place(maratonJobLeft, frame->design.Top, maratonJobWidth, frame->design.Height);
+    Frame4.place(maratonJobLeft, 3180, maratonJobWidth, Frame4.design.Height);
+    Frame5.place(maratonJobLeft, 4380, maratonJobWidth, Frame5.design.Height);
+    put({{OpBDSumm144, {1290, firstOption, 1270, optionHeight}}});
+    narrowArchive();
 }
 
 void FrmAnzeigenForm::writeMenu()

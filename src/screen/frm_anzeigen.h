@@ -124,10 +124,10 @@ struct FrmAnzeigenForm : Form {
     TextBox TxtNameDat{this, "TxtNameDat", &FraArh};
     CommandButton CmdMem{this, "CmdMem", &FraArh};
     CommandButton CmdArhivADI{this, "CmdArhivADI", &FraArh};
-    CommandButton CmdSterg{this, "CmdSterg", &FraArh};
     ListBox DrvList{this, "DrvList", &FraArh};  ///< drives
     ListBox DirList{this, "DirList", &FraArh};  ///< folders
     ListBox FilList{this, "FilList", &FraArh};  ///< files
+    CommandButton CmdSterg{this, "CmdSterg", &FraArh};
 
     // EDI header, first page: the contest, the station, who is responsible.
     Frame FraLogEDI1{this, "FraLogEDI1"};
@@ -301,6 +301,7 @@ struct FrmAnzeigenForm : Form {
     void placeDeletion();
     void placeBandChoices();
     void placeArchive();
+    void narrowArchive();
     void placeEdiStation();
     void placeEdiClaims();
     void placeStation();

@@ -7,23 +7,42 @@ namespace screen {
 
 void FrmAnzeigenForm::placeArchive()
 {
-    using namespace review_places;
-    constexpr double left = 120;
-    constexpr double width = jobWidth - 2 * left;
-
-    put(FraArh, "Arhivare LOG", {jobLeft, pageTop, jobWidth, pageHeight});
-    put(LblNumeFis, "Nume fisier", {left, 300, width, 250});
-    put({{TxtNameDat, "", "", {left, 560, width, 340}}});
-    put(CmdMem, "Arhivare fisier TEXT", {left, 1020, width, 340});
-    put(CmdArhivADI, "Arhivare fisier ADIF", {left, 1420, width, 340});
-    put(CmdSterg, "Stergere", {left, 1820, width, 340});
+    // The name and what is done with it, then where archives are kept; to delete one, it is first picked there.
+    put(FraArh, "Arhivare LOG", review_places::archive);
+    put(LblNumeFis, "Nume fisier", {120, 300, 1080, 360});
+    put({{TxtNameDat, "", "", {1260, 300, 3540, 360}}});
+    put(CmdMem, "Arhivare fisier TEXT", {120, 840, 2280, 360});
+    put(CmdArhivADI, "Arhivare fisier ADIF", {2520, 840, 2280, 360});
     put({
-        {DrvList, {left, 2300, width, 600}},
-        {DirList, {left, 3000, width, 1100}},
-        {FilList, {left, 4200, width, 1740}},
+        {DrvList, {120, 1320, 4680, 780}},
+        {DirList, {120, 2220, 1740, 3240}},
+        {FilList, {1980, 2220, 2820, 3240}},
     });
+    put(CmdSterg, "Stergere", {2520, 5580, 2280, 360});
+    LblNumeFis.rightAligned = true;
+    DirList.choiceClicks = false;  // a folder that is only passed on the way to another one is not opened
     setFont({&LblNumeFis, &TxtNameDat, &CmdMem, &CmdArhivADI, &CmdSterg}, 9, false);
     hide({&FraArh});
+}
+
+/// Archiving shows the log that it reads: the wide one leaves a single column.
+void FrmAnzeigenForm::narrowArchive()
+{
+    using namespace review_places;
+    constexpr double width = maratonJobWidth - 2 * margin;
+
+    put({
+        {FraArh, {maratonJobLeft, pageTop, maratonJobWidth, pageHeight}},
+        {LblNumeFis, {margin, 300, width, 240}},
+        {TxtNameDat, {margin, 540, width, 360}},
+        {CmdMem, {margin, 1020, width, 360}},
+        {CmdArhivADI, {margin, 1440, width, 360}},
+        {DrvList, {margin, 1920, width, 780}},
+        {DirList, {margin, 2820, width, 1140}},
+        {FilList, {margin, 4080, width, 1380}},
+        {CmdSterg, {margin, 5580, width, 360}},
+    });
+    LblNumeFis.rightAligned = false;
 }
 
 }  // namespace screen

@@ -17,18 +17,19 @@ struct EdiField {
 
 using EdiRow = std::initializer_list<EdiField>;
 
-constexpr double pageLeft = 120;
-constexpr double firstRow = 300;
-constexpr double rowHeight = 400;
-constexpr double columnWidth = 2360;
+constexpr double firstRow = 360;
+constexpr double rowPitch = 420;
+constexpr double columnPitch = 2910;
 constexpr double labelWidth = 960;
-constexpr double gap = 60;
+constexpr double gap = 60;  ///< between a label and its box
+constexpr double fieldHeight = 300;
 
 void putField(const EdiField& field, double left, double top)
 {
-    const double width = columnWidth * field.columns;
-    put(field.label, field.caption, {left, top + 40, labelWidth, 240});
-    put({{field.box, field.text, "", {left + labelWidth + gap, top, width - labelWidth - 2 * gap, 320}}});
+    const double boxLeft = left + labelWidth + gap;
+    const double end = left + columnPitch * field.columns - review_places::margin;
+    put(field.label, field.caption, {left, top, labelWidth, fieldHeight});
+    put({{field.box, field.text, "", {boxLeft, top, end - boxLeft, fieldHeight}}});
     field.label.rightAligned = true;
     setFont({&field.box}, 9, false);
 }
@@ -37,12 +38,12 @@ void putRows(std::initializer_list<EdiRow> rows)
 {
     double top = firstRow;
     for (const EdiRow& row : rows) {
-        double left = pageLeft;
+        double left = review_places::margin;
         for (const EdiField& field : row) {
             putField(field, left, top);
-            left += columnWidth * field.columns;
+            left += columnPitch * field.columns;
         }
-        top += rowHeight;
+        top += rowPitch;
     }
 }
 
@@ -73,7 +74,7 @@ void FrmAnzeigenForm::placeEdiStation()
         {{LblSRXEq, "S RXEq=", TxtSRXEq, " ", 2}, {LblSAnte, "SAnte=", TxtSAnte, " ", 2}},
         {{LblSAntH1, "SAntH1=", TxtSAntH1, " ", 1}, {LblSAntH2, " SAntH2=", TxtSAntH2, " ", 1}},
     });
-    put(CmdNextPage, "Next page", {7320, 5600, 2200, 340});
+    put(CmdNextPage, "Next page", {9360, 5580, 2280, 360});
     plainCharactersOnly({&TxtTDate1, &TxtTDate2, &TxtPCall, &TxtPWWLo, &TxtRCall});
     hide({&FraLogEDI1});
 }
@@ -107,7 +108,7 @@ void FrmAnzeigenForm::placeEdiClaims()
         {{LblFRem2, "Remarks=", TxtFRem2, "", wholeRow}},
         {{LblFRem3, "Remarks=", TxtFRem3, "", wholeRow}},
     });
-    put(CmdRetur, "Retur pag.1/2", {120, 5600, 2200, 340});
+    put(CmdRetur, "Retur pag.1/2", {120, 5580, 2280, 360});
     plainCharactersOnly({&TxtCODXC1, &TxtCODXC2});
     hide({&FraLogEDI2});
 }

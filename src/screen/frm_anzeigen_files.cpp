@@ -5,32 +5,16 @@
 
 namespace screen {
 
-using review_places::bandLeft;
-using review_places::bandWidth;
-using review_places::jobLeft;
-using review_places::pageTop;
-
 void FrmAnzeigenForm::placeBandChoices()
 {
-    put(Frame8, "DISKETA", {jobLeft, pageTop, bandWidth, 1500});
-    put(OpBDsk144, "144 MHz", {160, 360, 1680, 300});
-    put(OpBDsk432, "432 MHz", {160, 720, 1680, 300});
-    put(OpBDsk1296, "1296 MHz", {160, 1080, 1680, 300});
-
-    put(Frame10, "BANDA", {bandLeft, pageTop, bandWidth, 1500});
-    put(OpB0144, "144 MHz", {160, 360, 1680, 300});
-    put(Opb0432, "432 MHz", {160, 720, 1680, 300});
-    put(OpB01296, "1296 MHz", {160, 1080, 1680, 300});
-
-    put(FraBandEdi, "BAND EDI", {bandLeft, 1740, bandWidth, 1860});
-    put(OpB144Edi, "1&44 MHz", {160, 360, 1680, 300});
-    put(OpB432Edi, "4&32 MHz", {160, 720, 1680, 300});
-    put(OpB1296Edi, "1&296 MHz", {160, 1080, 1680, 300});
-    put(OpBGHzEdi, "GHz", {160, 1440, 1680, 300});
-
-    setFont({&OpBDsk144, &OpBDsk432, &OpBDsk1296, &OpB0144, &Opb0432, &OpB01296, &OpB144Edi, &OpB432Edi, &OpB1296Edi,
-             &OpBGHzEdi},
-            9, false);
+    using namespace review_places;
+    const auto putBands = [](Frame& frame, const char* caption, std::initializer_list<OptionRow> bands) {
+        put(frame, caption, {jobLeft, pageTop, jobWidth, putOptions(bands)});
+    };
+    putBands(Frame8, "DISKETA", {{OpBDsk144, "144 MHz"}, {OpBDsk432, "432 MHz"}, {OpBDsk1296, "1296 MHz"}});
+    putBands(Frame10, "BANDA", {{OpB0144, "144 MHz"}, {Opb0432, "432 MHz"}, {OpB01296, "1296 MHz"}});
+    putBands(FraBandEdi, "BAND EDI",
+             {{OpB144Edi, "1&44 MHz"}, {OpB432Edi, "4&32 MHz"}, {OpB1296Edi, "1&296 MHz"}, {OpBGHzEdi, "GHz"}});
     hide({&Frame8, &Frame10, &FraBandEdi});
 }
 
@@ -61,10 +45,10 @@ void FrmAnzeigenForm::placeStation()
     int number = 0;
     for (const StationRow& row : rows) {
         const int line = number / boxesARow;
-        const double left = 120 + 3900.0 * (number % boxesARow);
+        const double left = review_places::margin + 3960.0 * (number % boxesARow);
         const double top = 300 + 420.0 * line;
-        put(row.label, row.caption, {left, top + 50, 1000, 250});
-        put({{row.box, "", "", {left + 1060, top, 2700, 340}}});
+        put(row.label, row.caption, {left, top, 960, 360});
+        put({{row.box, "", "", {left + 1020, top, 2820, 360}}});
         row.label.rightAligned = true;
         setFont({&row.label, &row.box}, 9, false);
         ++number;

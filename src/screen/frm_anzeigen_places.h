@@ -1,26 +1,45 @@
 // Where the jobs of the review form stand on the design screen.
 //
-// The log in view fills the left side, down to the foot of the page while it is looked through or emptied. The frames
-// of the jobs stand in two columns beside it, the station data and the button that ends an input in two strips at the
-// foot. Jobs that are never in view together share a place.
+// Margins and gaps are 120 twips. The log in view fills the left side, down to the foot of the page while it is looked
+// through or emptied. Beside it the first column has what a job begins with, a log or a band to choose, and the second
+// one what comes of it. The station data and the button that ends an input stand in two strips at the foot. Jobs that
+// are never in view together share a place.
 #pragma once
+
+#include <initializer_list>
 
 #include "screen/control.h"
 
 namespace screen::review_places {
 
-constexpr double pageTop = 120;
-constexpr double pageHeight = 6060;                              ///< down to the strips at the foot
-constexpr double wholePageHeight = 8760;                         ///< for a job that has none of these strips
-constexpr Rectangle log{120, pageTop, 6760, pageHeight};         ///< wide enough for nine columns
-constexpr Rectangle maratonLog{120, pageTop, 9000, pageHeight};  ///< and for twelve
-constexpr double jobLeft = 7000;                                 ///< first column of frames
-constexpr double jobWidth = 2760;  ///< fits beside the wide log of the Maraton contest too
-constexpr double maratonJobLeft = 9200;
-constexpr double bandLeft = 9880;  ///< second column: the choice of a band
-constexpr double bandWidth = 2000;
-constexpr Rectangle ediPage{120, pageTop, 9640, pageHeight};
-constexpr Rectangle station{0, 6300, 11880, 2040};
-constexpr Rectangle endOfInput{4000, 8420, 3200, 440};
+constexpr double margin = 120;
+constexpr double pageTop = margin;
+constexpr double pageHeight = 6060;                                 ///< down to the strips at the foot
+constexpr double wholePageHeight = 8760;                            ///< for a job that has none of these strips
+constexpr Rectangle log{margin, pageTop, 6720, pageHeight};         ///< wide enough for nine columns
+constexpr Rectangle maratonLog{margin, pageTop, 8960, pageHeight};  ///< and for twelve
+constexpr double jobLeft = 6960;                                    ///< first column of frames
+constexpr double jobWidth = 2880;
+constexpr double resultLeft = 9960;  ///< second column
+constexpr double resultWidth = 1920;
+constexpr double maratonJobLeft = 9200;  ///< the wide log leaves room for one column
+constexpr double maratonJobWidth = 2680;
+constexpr Rectangle archive{jobLeft, pageTop, 4920, pageHeight};
+constexpr Rectangle ediPage{margin, pageTop, 11760, pageHeight};
+constexpr Rectangle station{0, 6300, 12000, 2040};
+constexpr Rectangle endOfInput{4000, 8460, 3240, 420};
+
+constexpr double firstOption = 360;  ///< from the top of its frame
+constexpr double optionHeight = 300;
+constexpr double optionWidth = maratonJobWidth - 2 * margin;
+
+struct OptionRow {
+    OptionButton& option;
+    const char* caption;
+};
+
+/// Puts the options of a frame of the first column one below the other. Returns the height of the frame that they ask
+/// for.
+double putOptions(std::initializer_list<OptionRow> rows);
 
 }  // namespace screen::review_places

@@ -5,12 +5,9 @@
 
 namespace screen {
 
-using review_places::jobLeft;
-using review_places::jobWidth;
-using review_places::pageTop;
-
 void FrmAnzeigenForm::placePrinting()
 {
+    using namespace review_places;
     // Two rows fit a height of 1215, five rows of logs alone a height of 2550 and a width of 1475.
     struct PrintRow {
         OptionButton& log;
@@ -20,18 +17,20 @@ void FrmAnzeigenForm::placePrinting()
         {OpBD144a, "Log 144a"}, {OpBD144b, "Log 144b"},   {OpBD432a, "Log 432a"},
         {OpBD432b, "Log 432b"}, {OpBD1296a, "Log 1296a"}, {OpBD1296b, "Log 1296b"},
     };
-    constexpr double firstRow = 330;
-    constexpr double rowHeight = 420;
+    constexpr double rowPitch = 420;
+    constexpr double logWidth = 1170;
+    constexpr double summaryLeft = 1290;
+    constexpr double summaryWidth = 1470;
 
     put(Frame3, "PRINT", {jobLeft, pageTop, jobWidth, 2880});
-    double top = firstRow;
+    double top = firstOption;
     for (const PrintRow& row : logs) {
-        put(row.log, row.caption, {100, top, 1170, 300});
-        top += rowHeight;
+        put(row.log, row.caption, {margin, top, logWidth, optionHeight});
+        top += rowPitch;
     }
-    put(OpBDSumm144, "Summary 144", {1290, firstRow, 1430, 300});
-    put(OpBDSumm432, "Summary 432", {1290, firstRow + 2 * rowHeight, 1430, 300});
-    put(OpbDSumm1296, "Summary 1296", {1290, firstRow + 4 * rowHeight, 1430, 300});
+    put(OpBDSumm144, "Summary 144", {summaryLeft, firstOption, summaryWidth, optionHeight});
+    put(OpBDSumm432, "Summary 432", {summaryLeft, firstOption + 2 * rowPitch, summaryWidth, optionHeight});
+    put(OpbDSumm1296, "Summary 1296", {summaryLeft, firstOption + 4 * rowPitch, summaryWidth, optionHeight});
     hide({&Frame3});
 }
 

@@ -9,7 +9,10 @@ namespace screen {
 namespace {
 
 // The contests and, once one is picked, the question about the operating mode share this place.
-constexpr Rectangle contestPlace{6240, 760, 5520, 3200};
+constexpr Rectangle contestPlace{6240, 780, 5520, 3300};
+
+constexpr double labelPoints = 10;
+constexpr double fieldPoints = 12;
 
 }  // namespace
 
@@ -43,36 +46,38 @@ void FrmInitForm::writeMenu()
 
 void FrmInitForm::placeHeading()
 {
-    put(LblContest, "", {240, 180, 7200, 420});
-    put(LblTypTest, "", {8160, 180, 3600, 420});
+    put(LblContest, "", {240, 150, 7200, 480});
+    put(LblTypTest, "", {7560, 150, 4200, 480});
     LblTypTest.ForeColor = lampOn;
+    LblTypTest.rightAligned = true;
     setFont({&LblContest, &LblTypTest}, 14, true);
 }
 
+// Seven questions on six rows: either the name or the number is asked for.
 void FrmInitForm::placeStation()
 {
     put({
-        {LblMyCall, "MY CALL  ", {240, 890, 2300, 250}},
-        {LblQraLoc, "   MY QRALOC", {240, 1330, 2300, 250}},
-        {LblTime, " (Time Local - UTC)", {240, 1770, 2300, 250}},
-        {LblMyName, "MY NAME", {240, 2210, 2300, 250}},
-        {LblRpNr, "Cod Nr", {240, 2650, 2300, 250}},
-        {LblInscr, "(Nr Control for the next QSO)", {3640, 2660, 2580, 250}},
-        {LblSD, "START DATE", {240, 3090, 2300, 250}},
-        {LblST, "START TIME", {240, 3530, 2300, 250}},
+        {LblMyCall, "MY CALL  ", {240, 945, 2340, 270}},
+        {LblQraLoc, "   MY QRALOC", {240, 1485, 2340, 270}},
+        {LblTime, " (Time Local - UTC)", {240, 2025, 2340, 270}},
+        {LblMyName, "MY NAME", {240, 2565, 2340, 270}},
+        {LblRpNr, "Cod Nr", {240, 2565, 2340, 270}},
+        {LblInscr, "(Nr Control for the next QSO)", {3660, 2565, 2550, 270}},
+        {LblSD, "START DATE", {240, 3105, 2340, 270}},
+        {LblST, "START TIME", {240, 3645, 2340, 270}},
     });
     put({
-        {TxtMyCall, "", "Introdu indicativul propriu", {2640, 840, 2400, 340}},
-        {txtMyQRA, "", "Introdu QRA Locatorul propriu", {2640, 1280, 2400, 340}},
-        {TxtTime, "", "Introdu diferenta intre timpul calculator si timpul UTC", {2640, 1720, 940, 340}},
-        {TxtMyName, "", "", {2640, 2160, 2400, 340}},
-        {TxtRpNr, "", "Introdu Codul de inceput (vezi regulamentul de concurs)", {2640, 2600, 940, 340}},
-        {TxtSD, "", "Introdu data concursului", {2640, 3040, 1500, 340}},
-        {TxtST, "", "Introdu ora cind ai inceput concursul", {2640, 3480, 1500, 340}},
+        {TxtMyCall, "", "Introdu indicativul propriu", {2640, 870, 2640, 420}},
+        {txtMyQRA, "", "Introdu QRA Locatorul propriu", {2640, 1410, 2640, 420}},
+        {TxtTime, "", "Introdu diferenta intre timpul calculator si timpul UTC", {2640, 1950, 960, 420}},
+        {TxtMyName, "", "", {2640, 2490, 2640, 420}},
+        {TxtRpNr, "", "Introdu Codul de inceput (vezi regulamentul de concurs)", {2640, 2490, 960, 420}},
+        {TxtSD, "", "Introdu data concursului", {2640, 3030, 1800, 420}},
+        {TxtST, "", "Introdu ora cind ai inceput concursul", {2640, 3570, 1800, 420}},
     });
-    setFont({&LblMyCall, &LblQraLoc, &LblTime, &LblMyName, &LblRpNr, &LblSD, &LblST}, 9, false);
-    setFont({&TxtMyCall, &txtMyQRA}, 11, true);
-    setFont({&TxtTime, &TxtMyName, &TxtRpNr, &TxtSD, &TxtST}, 11, false);
+    setFont({&LblMyCall, &LblQraLoc, &LblTime, &LblMyName, &LblRpNr, &LblSD, &LblST}, labelPoints, false);
+    setFont({&TxtMyCall, &txtMyQRA}, fieldPoints, true);
+    setFont({&TxtTime, &TxtMyName, &TxtRpNr, &TxtSD, &TxtST}, fieldPoints, false);
     plainCharactersOnly({&TxtMyCall, &txtMyQRA, &TxtTime, &TxtRpNr, &TxtSD, &TxtST});
     hide({&LblMyName, &TxtMyName, &LblSD, &TxtSD, &LblST, &TxtST});
 }
@@ -100,12 +105,13 @@ void FrmInitForm::placeContests()
     constexpr int rowsAColumn = 6;
 
     put(FrmConcurs, "Concurs :", contestPlace);
+    setFont({&FrmConcurs}, frameTitlePoints, true);
     int number = 0;
     for (const ContestRow& row : rows) {
-        const double left = number / rowsAColumn == 0 ? 240 : 2880;
-        put(row.option, row.caption, {left, 360.0 + 460 * (number % rowsAColumn), 2480, 320});
+        const double left = number / rowsAColumn == 0 ? 120 : 2790;
+        put(row.option, row.caption, {left, 330.0 + 480 * (number % rowsAColumn), 2580, 420});
         row.option.ToolTipText = row.toolTip;
-        setFont({&row.option}, 9, false);
+        setFont({&row.option}, 10, false);
         ++number;
     }
 }
@@ -113,11 +119,12 @@ void FrmInitForm::placeContests()
 void FrmInitForm::placeOperatingMode()
 {
     put(FraConcurs, "ATENTIUNE", contestPlace);
-    put(LblAnunt, "", {160, 280, 5200, 2340});
-    put(OpbConcurs, "C&ONCURS", {720, 2720, 1800, 340});
-    put(OpbTest, "T&EST", {3240, 2720, 1800, 340});
-    setFont({&LblAnunt}, 9, false);
-    setFont({&OpbConcurs, &OpbTest}, 10, true);
+    setFont({&FraConcurs}, frameTitlePoints, true);
+    put(LblAnunt, "", {120, 330, 5280, 2340});
+    put(OpbConcurs, "C&ONCURS", {120, 2760, 2580, 420});
+    put(OpbTest, "T&EST", {2790, 2760, 2580, 420});
+    setFont({&LblAnunt}, 10, false);
+    setFont({&OpbConcurs, &OpbTest}, 12, true);
     hide({&FraConcurs});
 }
 
@@ -127,20 +134,22 @@ void FrmInitForm::placeKeying()
     constexpr const char* withComputer = "CW Transmis cu calculatorul DA";
     constexpr const char* withoutComputer = "CW Transmis cu calculatorul NU";
 
-    put(FramCW, "CW cu PC", {240, 4120, 4200, 1440});
-    put(OpbCwJ, withComputer, {180, 280, 3840, 300});
-    put(OpbCwN, withoutComputer, {180, 640, 3840, 300});
-    put(ChkCwRpt, "Cw &Rpt", {180, 1000, 1800, 300});
+    put(FramCW, "CW cu PC", {240, 4200, 4320, 1500});
+    put(OpbCwJ, withComputer, {120, 300, 4080, 345});
+    put(OpbCwN, withoutComputer, {120, 675, 4080, 345});
+    put(ChkCwRpt, "Cw &Rpt", {120, 1050, 4080, 345});
 
-    put(FramSSB, "SSB cu PC", {4560, 4120, 4200, 1440});
-    put(OpbSSBJ, withComputer, {180, 280, 3840, 300});
-    put(OpbSSBN, withoutComputer, {180, 640, 3840, 300});
-    put(ChkSSBRpt, "&SSB Rpt", {180, 1000, 1800, 300});
+    put(FramSSB, "SSB cu PC", {4680, 4200, 4320, 1500});
+    put(OpbSSBJ, withComputer, {120, 300, 4080, 345});
+    put(OpbSSBN, withoutComputer, {120, 675, 4080, 345});
+    put(ChkSSBRpt, "&SSB Rpt", {120, 1050, 4080, 345});
 
-    put(LblCP, "CommPort:", {9120, 4410, 1320, 250});
-    put({{TxtCP, "", "Introdu Nr. Port Serial", {10500, 4360, 900, 340}}});
-    setFont({&LblCP}, 9, false);
-    setFont({&TxtCP}, 11, false);
+    put(LblCP, "CommPort:", {9240, 4545, 1500, 270});
+    put({{TxtCP, "", "Introdu Nr. Port Serial", {10800, 4470, 960, 420}}});
+    setFont({&FramCW, &FramSSB}, frameTitlePoints, true);
+    setFont({&OpbCwJ, &OpbCwN, &ChkCwRpt, &OpbSSBJ, &OpbSSBN, &ChkSSBRpt}, 9, false);
+    setFont({&LblCP}, labelPoints, false);
+    setFont({&TxtCP}, fieldPoints, false);
 
     OpbCwN.Value = true;
     OpbSSBN.Value = true;
@@ -165,20 +174,22 @@ void FrmInitForm::placeMessages()
         {LblF7, "F7", TxtF7, "Text de transmis prin F7"},
     };
 
-    put(FramTxtCw, "TEXT PROGRAM CW", {240, 5720, 11520, 2840});
-    double top = 260;
+    put(FramTxtCw, "TEXT PROGRAM CW", {240, 5820, 11520, 2760});
+    double top = 270;
     for (const MessageRow& row : rows) {
-        put(row.label, row.caption, {180, top + 40, 360, 240});
-        put({{row.text, "", row.toolTip, {600, top, 7800, 320}}});
-        setFont({&row.text}, 9, false);
-        top += 360;
+        put(row.label, row.caption, {120, top + 30, 420, 255});
+        put({{row.text, "", row.toolTip, {600, top, 8160, 315}}});
+        setFont({&row.label}, 9, true);
+        setFont({&row.text}, 10, false);
+        top += 345;
     }
     put({
-        {LblMC, "#1 = MyCall", {8760, 300, 2520, 250}},
-        {LblYC, "#2 = YourCall", {8760, 660, 2520, 250}},
-        {LblNo, "#3 = Report Nr", {8760, 1020, 2520, 250}},
-        {LblMQRA, "#4 = My QRA", {8760, 1380, 2520, 250}},
+        {LblMC, "#1 = MyCall", {9000, 300, 2340, 255}},
+        {LblYC, "#2 = YourCall", {9000, 645, 2340, 255}},
+        {LblNo, "#3 = Report Nr", {9000, 990, 2340, 255}},
+        {LblMQRA, "#4 = My QRA", {9000, 1335, 2340, 255}},
     });
+    setFont({&FramTxtCw}, frameTitlePoints, true);
     setFont({&LblMC, &LblYC, &LblNo, &LblMQRA}, 9, false);
     hide({&FramTxtCw});
 }

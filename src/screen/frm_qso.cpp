@@ -1,13 +1,24 @@
 #include "screen/frm_qso.h"
 
+#include "screen/access_keys.h"
 #include "screen/placing.h"
 
 screen::FrmQSOForm FrmQSO;
 
 namespace screen {
 
-// Free on this page is what the compass rose needs: 3000 to 5350 from the left, 2400 to 4650 from the top. On the
-// smallest screens the received exchange steps down to 2400 on the microwave bands; nothing else stands there.
+// The page has three columns: from 120 and from 3660 to 7080 the QSO, from 7200 to 11880 what it is worked with and
+// what came of it; below 4800 the log, beside it what is looked up. A gap is 60, or 120 between the columns. Free is
+// what the compass rose needs: 3060 to 5340 from the left, 2250 to 4740 from the top. On low screens the received
+// exchange steps down to 2400 on the microwave bands.
+
+namespace {
+
+constexpr double captionPoints = 10;
+constexpr double exchangePoints = 18;
+constexpr double namePoints = 12;
+
+}  // namespace
 
 FrmQSOForm::FrmQSOForm() : Form("FrmQSO")
 {
@@ -32,6 +43,7 @@ FrmQSOForm::FrmQSOForm() : Form("FrmQSO")
     placeLegend();
     bindTables();
     placeGrids();
+    giveAccessKeys(*this);
     makeParkingPlace(TxtRez);
     tmrTimer.Interval = 1000;
 }
@@ -53,17 +65,18 @@ void FrmQSOForm::writeMenu()
 
 void FrmQSOForm::placeCall()
 {
-    put(LblCall, "   CALL", {440, 30, 2980, 290});
-    put({{txtIndic, "", "Introdu indicativul statiei corespondente si ENTER", {440, 330, 2980, 540}}});
-    put(LblNeu, "NEU", {2720, 900, 700, 260});
-    put(CmdEnterCall, "&Enter Call", {5940, 1400, 1160, 330});
-    put(CmdAbbruchX, " &Abort ", {5940, 1770, 1160, 280});
-    put(LblOffLine, "OFF LINE", {5400, 900, 1600, 290});
+    put(LblCall, "   CALL", {120, 60, 3420, 240});
+    put({{txtIndic, "", "Introdu indicativul statiei corespondente si ENTER", {120, 300, 3420, 630}}});
+    put(LblNeu, "NEU", {120, 945, 1440, 240});
+    put(CmdEnterCall, "&Enter Call", {5820, 1260, 1260, 390});
+    put(CmdAbbruchX, " &Abort ", {5820, 1740, 1260, 390});
+    put(LblOffLine, "OFF LINE", {5400, 945, 1680, 240});
 
-    LblOffLine.ForeColor = red;
-    setFont({&txtIndic}, 18, true);
-    setFont({&LblCall, &LblOffLine}, 12, true);
-    setFont({&LblNeu, &CmdEnterCall}, 9, true);
+    LblCall.heads = {&txtIndic};
+    LblOffLine.ForeColor = warning;
+    setFont({&txtIndic}, 24, true);
+    setFont({&LblCall, &LblOffLine, &LblNeu}, captionPoints, true);
+    setFont({&CmdEnterCall, &CmdAbbruchX}, 9, true);
     setBackColor({&txtIndic}, yellow);
     plainCharactersOnly({&txtIndic});
     disable({&txtIndic, &CmdEnterCall});
@@ -72,15 +85,17 @@ void FrmQSOForm::placeCall()
 
 void FrmQSOForm::placeSent()
 {
-    put(LblRSTe, "RSTS CODS QTHLOCS", {3720, 30, 2980, 290});
+    put(LblRSTe, "RSTS CODS QTHLOCS", {3660, 60, 3420, 240});
     put({
-        {TxtRSTE1, "  ", "Computerul introduce 599/59", {3720, 330, 720, 480}},
-        {txtRSTE2, " ", "Computerul introduce codul de transmis", {4480, 330, 840, 480}},
-        {txtRSTe3, " ", "Computerul introduce QTHLoc. propriu", {5360, 330, 1340, 480}},
-        {TxtMyName, "", "", {5360, 850, 1340, 480}},
+        {TxtRSTE1, "  ", "Computerul introduce 599/59", {3660, 300, 840, 630}},
+        {txtRSTE2, " ", "Computerul introduce codul de transmis", {4560, 300, 1020, 630}},
+        {txtRSTe3, " ", "Computerul introduce QTHLoc. propriu", {5640, 300, 1440, 630}},
+        {TxtMyName, "", "", {5640, 990, 1440, 240}},
     });
-    setFont({&LblRSTe, &TxtRSTE1, &txtRSTE2, &txtRSTe3}, 12, true);
-    setFont({&TxtMyName}, 11, true);
+    LblRSTe.heads = {&TxtRSTE1, &txtRSTE2, &txtRSTe3, &TxtMyName};
+    setFont({&LblRSTe}, captionPoints, true);
+    setFont({&TxtRSTE1, &txtRSTE2, &txtRSTe3}, exchangePoints, true);
+    setFont({&TxtMyName}, namePoints, true);
     setBackColor({&TxtRSTE1, &txtRSTE2, &txtRSTe3, &TxtMyName}, yellow);
     plainCharactersOnly({&TxtRSTE1, &txtRSTE2, &txtRSTe3});
     disable({&TxtRSTE1, &txtRSTE2, &txtRSTe3});
@@ -89,15 +104,17 @@ void FrmQSOForm::placeSent()
 
 void FrmQSOForm::placeReceived()
 {
-    put(LblRSTR, "      RSTR CODR QTHLOCR", {0, 1200, 3600, 290});
+    put(LblRSTR, "      RSTR CODR QTHLOCR", {120, 1260, 3420, 240});
     put({
-        {TxtRSTR1, " ", "Computerul introduce 599/59", {440, 1500, 720, 480}},
-        {TxtRSTR2, " ", "Introdu codul receptionat", {1200, 1500, 840, 480}},
-        {TxtRSTr3, " ", "Introdu QTHLoc. receptionat", {2080, 1500, 1340, 480}},
-        {TxtYourName, "", "", {2080, 2020, 1340, 480}},
+        {TxtRSTR1, " ", "Computerul introduce 599/59", {120, 1500, 840, 630}},
+        {TxtRSTR2, " ", "Introdu codul receptionat", {1020, 1500, 1020, 630}},
+        {TxtRSTr3, " ", "Introdu QTHLoc. receptionat", {2100, 1500, 1440, 630}},
+        {TxtYourName, "", "", {2100, 990, 1440, 240}},
     });
-    setFont({&LblRSTR, &TxtRSTR1, &TxtRSTR2, &TxtRSTr3}, 12, true);
-    setFont({&TxtYourName}, 11, true);
+    LblRSTR.heads = {&TxtRSTR1, &TxtRSTR2, &TxtRSTr3, &TxtYourName};
+    setFont({&LblRSTR}, captionPoints, true);
+    setFont({&TxtRSTR1, &TxtRSTR2, &TxtRSTr3}, exchangePoints, true);
+    setFont({&TxtYourName}, namePoints, true);
     setBackColor({&TxtRSTR1, &TxtRSTR2, &TxtRSTr3, &TxtYourName}, yellow);
     plainCharactersOnly({&TxtRSTR1, &TxtRSTR2, &TxtRSTr3});
     disable({&TxtRSTR1, &TxtRSTR2, &TxtRSTr3});
@@ -106,60 +123,73 @@ void FrmQSOForm::placeReceived()
 
 void FrmQSOForm::placeTime()
 {
-    put(LblUTC, "   UTC", {3720, 1240, 860, 250});
-    put(LblDate, "   Date", {4620, 1240, 1240, 250});
+    put(LblUTC, "   UTC", {3660, 1260, 840, 240});
+    put(LblDate, "   Date", {4560, 1260, 1200, 240});
     put({
-        {TxtUTC, " ", "", {3720, 1500, 860, 480}},
-        {TxtDate, "", "", {4620, 1500, 1240, 480}},
+        {TxtUTC, " ", "", {3660, 1500, 840, 630}},
+        {TxtDate, "", "", {4560, 1500, 1200, 630}},
     });
-    setFont({&LblUTC, &LblDate}, 10, true);
-    setFont({&TxtUTC, &TxtDate}, 12, false);
+    LblUTC.heads = {&TxtUTC};
+    LblDate.heads = {&TxtDate};
+    setFont({&LblUTC, &LblDate}, captionPoints, true);
+    setFont({&TxtUTC, &TxtDate}, 11, false);
     setBackColor({&TxtUTC, &TxtDate}, grey);
     plainCharactersOnly({&TxtUTC, &TxtDate});
 }
 
 void FrmQSOForm::placeLastCode()
 {
-    constexpr Rectangle codePlace{4480, 850, 840, 270};
+    constexpr Rectangle codePlace{4560, 945, 780, 240};
 
-    put(LblLastCode, "LAST", {3720, 870, 720, 250});
+    put(LblLastCode, "LAST", {3660, 945, 840, 240});
     put({
         {LblCod, "000", codePlace},
         {LblCod432, "000", codePlace},
         {LblCod1296, "000", codePlace},
         {LblCodGhz, "000", codePlace},
     });
-    setFont({&LblCod, &LblCod432, &LblCod1296, &LblCodGhz}, 11, true);
+    setFont({&LblCod, &LblCod432, &LblCod1296, &LblCodGhz}, captionPoints, true);
     hide({&LblCod432, &LblCod1296, &LblCodGhz});
 }
 
 void FrmQSOForm::placeHeading()
 {
     put({
-        {LblQRB1, "", {3240, 2080, 1150, 290}},
-        {LblBeam1, "", {4420, 2080, 690, 290}},
-        {LblConc, "", {7200, 30, 3100, 290}},
-        {LblAnunt, "Select  BAND and MODE", {5280, 2120, 4800, 300}},
+        {LblBeam1, "", {120, 2220, 1380, 600}},
+        {LblQRB1, "", {1560, 2220, 1440, 600}},
+        {LblConc, "", {7200, 60, 4680, 240}},
+        {LblAnunt, "Select  BAND and MODE", {5280, 2190, 6600, 300}},
     });
-    LblAnunt.ForeColor = red;
-    setFont({&LblQRB1, &LblBeam1}, 11, true);
-    setFont({&LblConc, &LblAnunt}, 12, true);
+    LblConc.ForeColor = lampOn;
+    LblAnunt.ForeColor = warning;
+    setFont({&LblBeam1}, 22, true);
+    setFont({&LblQRB1}, 15, true);
+    setFont({&LblConc}, captionPoints, true);
+    setFont({&LblAnunt}, 12, true);
     hide({&LblAnunt, &Line4});
+}
+
+void FrmQSOForm::takeLowScreenPlaces()
+{
+    put({
+        {LblBeam1, {120, 2145, 1380, 240}},
+        {LblQRB1, {1560, 2145, 1440, 240}},
+    });
 }
 
 void FrmQSOForm::placeBands()
 {
-    put(LblBands, "BAND", {7200, 500, 660, 250});
+    put(LblBands, "BAND", {7200, 510, 640, 225});
     put({
-        {Lbl144, "", {7900, 350, 560, 110}},
-        {Lbl432, "", {8500, 350, 560, 110}},
-        {Lbl1296, "", {9100, 350, 560, 110}},
-        {LblGHz, "", {9700, 350, 560, 110}},
+        {Lbl144, "", {7900, 300, 540, 120}},
+        {Lbl432, "", {8500, 300, 540, 120}},
+        {Lbl1296, "", {9100, 300, 540, 120}},
+        {LblGHz, "", {9700, 300, 540, 120}},
     });
-    put(Cmd144, "144", {7900, 470, 560, 340});
-    put(Cmd432, "432", {8500, 470, 560, 340});
-    put(Cmd1296, "1296", {9100, 470, 560, 340});
-    put(CmdGHz, "GHz", {9700, 470, 560, 340});
+    put(Cmd144, "144", {7900, 420, 540, 405});
+    put(Cmd432, "432", {8500, 420, 540, 405});
+    put(Cmd1296, "1296", {9100, 420, 540, 405});
+    put(CmdGHz, "GHz", {9700, 420, 540, 405});
     setFont({&LblBands}, 8, true);
     setBackColor({&Lbl144, &Lbl432, &Lbl1296, &LblGHz}, lampOff);
     hide({&CmdGHz});
@@ -167,17 +197,17 @@ void FrmQSOForm::placeBands()
 
 void FrmQSOForm::placeModes()
 {
-    put(LblMode, "MODE", {7200, 1010, 660, 250});
+    put(LblMode, "MODE", {7200, 1095, 640, 225});
     put({
-        {LblSSB, "", {7900, 860, 560, 110}},
-        {LblCW, "", {8500, 860, 560, 110}},
-        {LblFm, "", {9100, 860, 560, 110}},
-        {LblMixt, "", {9700, 860, 560, 110}},
+        {LblSSB, "", {7900, 885, 540, 120}},
+        {LblCW, "", {8500, 885, 540, 120}},
+        {LblFm, "", {9100, 885, 540, 120}},
+        {LblMixt, "", {9700, 885, 540, 120}},
     });
-    put(CmdSSB, "SSB", {7900, 980, 560, 340});
-    put(CmdCW, "CW", {8500, 980, 560, 340});
-    put(CmdFm, "Fm", {9100, 980, 560, 340});
-    put(CmdMixt, "Mixt", {9700, 980, 560, 340});
+    put(CmdSSB, "SSB", {7900, 1005, 540, 405});
+    put(CmdCW, "CW", {8500, 1005, 540, 405});
+    put(CmdFm, "Fm", {9100, 1005, 540, 405});
+    put(CmdMixt, "Mixt", {9700, 1005, 540, 405});
     setFont({&LblMode}, 8, true);
     setBackColor({&LblSSB, &LblCW, &LblFm, &LblMixt}, lampOff);
     hide({&CmdMixt});
@@ -185,141 +215,71 @@ void FrmQSOForm::placeModes()
 
 void FrmQSOForm::placeStages()
 {
-    put(LblA, "", {10560, 350, 1200, 110});
-    put(CmdA, "Etapa A", {10560, 470, 1200, 340});
-    put(LblB, "", {10560, 860, 1200, 110});
-    put(CmdB, "Etapa B", {10560, 980, 1200, 340});
+    put(LblA, "", {10380, 300, 1500, 120});
+    put(CmdA, "Etapa A", {10380, 420, 1500, 405});
+    put(LblB, "", {10380, 885, 1500, 120});
+    put(CmdB, "Etapa B", {10380, 1005, 1500, 405});
     setBackColor({&LblA, &LblB}, lampOff);
     hide({&LblA, &LblB, &CmdA, &CmdB});
 }
 
 void FrmQSOForm::placePauses()
 {
-    put(LblPause, "PAUSE", {7200, 1390, 660, 250});
+    put(LblPause, "PAUSE", {7200, 1560, 640, 225});
     put({
-        {TxtPauseSSB, " 5", "", {7900, 1360, 560, 280}},
-        {txtPauseCW, " 5", "", {8500, 1360, 560, 280}},
-        {TxtPauseFm, " 5", "", {9100, 1360, 560, 280}},
+        {TxtPauseSSB, " 5", "", {7900, 1500, 540, 330}},
+        {txtPauseCW, " 5", "", {8500, 1500, 540, 330}},
+        {TxtPauseFm, " 5", "", {9100, 1500, 540, 330}},
     });
-    put(LblStopCW, "ESC/END=STOP CW", {9760, 1390, 2120, 250});
+    put(LblStopCW, "ESC/END=STOP CW", {7900, 1890, 2340, 240});
     setFont({&LblPause, &LblStopCW}, 8, true);
+    setFont({&TxtPauseSSB, &txtPauseCW, &TxtPauseFm}, 10, true);
     setBackColor({&TxtPauseSSB, &txtPauseCW, &TxtPauseFm}, yellow);
     hide({&LblPause, &TxtPauseSSB, &txtPauseCW, &TxtPauseFm, &LblStopCW});
 }
 
 void FrmQSOForm::placeDuplicate()
 {
-    put(Frame4, "ATENTIUNE QSO DUBLU", {120, 3000, 2700, 1480});
-    put(LblDublu, "Punctaj la QSO - ul :", {160, 320, 2380, 280});
-    put(OBtAnterior, "Ant&erior", {240, 660, 2240, 320});
-    put(OBtActual, "Ac&tual", {240, 1050, 2240, 320});
-    Frame4.ForeColor = red;
+    put(Frame4, "ATENTIUNE QSO DUBLU", {120, 3060, 2820, 1680});
+    put(LblDublu, "Punctaj la QSO - ul :", {120, 330, 2580, 300});
+    put(OBtAnterior, "Ant&erior", {120, 690, 2580, 420});
+    put(OBtActual, "Ac&tual", {120, 1140, 2580, 420});
+    Frame4.ForeColor = warning;
     setFont({&Frame4}, 9, true);
-    setFont({&LblDublu}, 9, false);
-    setFont({&OBtAnterior, &OBtActual}, 11, true);
+    setFont({&LblDublu}, 10, false);
+    setFont({&OBtAnterior, &OBtActual}, 12, true);
     hide({&Frame4});
-}
-
-void FrmQSOForm::placeScore()
-{
-    struct ScoreRow {
-        Label& band;
-        const char* caption;
-        Label& points;
-        Label& count;
-    };
-    const ScoreRow rows[] = {
-        {LblBand, "144", LblPkt, LblQSO},
-        {LblBand1, "432", LblPkt1, LblQSO1},
-        {LblBand2, "1296", LblPkt2, LblQSO2},
-        {LblBand3, "GHz", LblPkt3, LblQSO3},
-    };
-
-    // 1455 holds two rows; contests with more bands make the frame 1815 or 2215 high.
-    put(Frame2, "SCORE", {5450, 2450, 2560, 1455});
-    put({
-        {LblBandCol, "Bnd", {100, 240, 740, 240}},
-        {LblPktCol, "Pkt", {860, 240, 920, 240}},
-        {LblQSOCol, "QSO", {1840, 240, 640, 240}},
-    });
-    double top = 510;
-    for (const ScoreRow& row : rows) {
-        put(row.band, row.caption, {100, top, 740, 340});
-        put(row.points, "0", {860, top, 920, 340});
-        put(row.count, "0", {1840, top, 640, 340});
-        row.points.rightAligned = true;
-        row.count.rightAligned = true;
-        setFont({&row.band, &row.points, &row.count}, 10, true);
-        top += 400;
-    }
-    LblPktCol.rightAligned = true;
-    LblQSOCol.rightAligned = true;
-    hide({&LblBand2, &LblPkt2, &LblQSO2, &LblBand3, &LblPkt3, &LblQSO3});
 }
 
 void FrmQSOForm::placeMyData()
 {
-    put(FramMyData, "MY DATA", {8130, 2450, 2100, 1000});
-    put(LblMyCall, "", {100, 260, 1900, 320});
-    put(LblMyQRA, "", {100, 610, 1900, 320});
+    put(FramMyData, "MY DATA", {9900, 4800, 1980, 1140});
+    put(LblMyCall, "", {120, 300, 1740, 360});
+    put(LblMyQRA, "", {120, 690, 1740, 360});
+    setFont({&FramMyData}, frameTitlePoints, true);
     setFont({&LblMyCall, &LblMyQRA}, 12, true);
-}
-
-void FrmQSOForm::placeMicrowaveBands()
-{
-    put(Frame3, "GHz", {10350, 2450, 1530, 2200});
-    TxtFGHz.place(120, 260, 1290, 340);
-    List1.place(120, 660, 1290, 1440);
-    setFont({&TxtFGHz}, 11, true);
-    hide({&Frame3});
-}
-
-void FrmQSOForm::placeMessages()
-{
-    struct MessageRow {
-        Label& label;
-        const char* caption;
-        TextBox& text;
-    };
-    const MessageRow rows[] = {
-        {LblF1, "F1", TxtF1}, {LblF2, "F2", TxtF2}, {LblF3, "F3", TxtF3}, {LblF4, "F4", TxtF4},
-        {LblF5, "F5", TxtF5}, {LblF6, "F6", TxtF6}, {LblF7, "F7", TxtF7},
-    };
-
-    put({{TxtCwCurent, "", "", {6780, 4720, 5100, 330}}});
-    put(FramTxtCw, "TEXT PROGRAM CW", {6780, 5110, 3480, 2890});
-    double top = 240;
-    for (const MessageRow& row : rows) {
-        put(row.label, row.caption, {100, top + 30, 280, 240});
-        put({{row.text, "", "", {400, top, 2980, 300}}});
-        top += 310;
-    }
-    put(LblRezCW, "#1=MYCALL  #2=YOURCALL #3=CODS      #4=MYQRA", {100, 2430, 3300, 420});
-    setBackColor({&TxtF1}, yellow);  // green once automatic calling is on
-    setFont({&TxtCwCurent}, 10, false);
-    hide({&TxtCwCurent, &FramTxtCw});
-}
-
-void FrmQSOForm::placeKeyingSpeed()
-{
-    put(FrmCwProgr, "CW", {10350, 5110, 1530, 1140});
-    put(lblWPM, "30", {100, 300, 640, 400});
-    put(LblSpeedUnit, "WPM", {800, 380, 640, 260});
-    put(LblSpeedKeys, "PgUp PgDn", {100, 780, 1340, 250});
-    lblWPM.rightAligned = true;
-    setFont({&lblWPM}, 14, true);
-    hide({&FrmCwProgr});
 }
 
 void FrmQSOForm::placeLegend()
 {
-    put(Frame6, "", {6780, 8060, 5100, 840});
+    put(Frame6, "", {7200, 4800, 2640, 1140});
     put({
-        {LblKeyNext, "TAB/SP=NEXTFIELD", {160, 230, 2300, 250}},
-        {LblKeyReceived, " F8=CODR F9=QRAR    ", {2640, 230, 2300, 250}},
-        {LblKeySent, "F11=CODS ESC=CLR", {160, 520, 2300, 250}},
-        {LblKeyLog, "ENTER/F12=LOG ", {2640, 520, 2300, 250}},
+        {LblKeyNext, "TAB/SP=NEXTFIELD", {120, 75, 2400, 240}},
+        {LblKeyReceived, " F8=CODR F9=QRAR    ", {120, 330, 2400, 240}},
+        {LblKeySent, "F11=CODS ESC=CLR", {120, 585, 2400, 240}},
+        {LblKeyLog, "ENTER/F12=LOG ", {120, 840, 2400, 240}},
     });
+}
+
+void FrmQSOForm::placeMicrowaveBands()
+{
+    put(Frame3, "GHz", {5400, 2520, 1680, 2220});
+    TxtFGHz.place(720, 60, 900, 375);
+    List1.place(60, 495, 1560, 1665);
+    setFont({&Frame3}, frameTitlePoints, true);
+    setFont({&TxtFGHz}, 11, true);
+    setFont({&List1}, 8, false);
+    hide({&Frame3});
 }
 
 void FrmQSOForm::bindTables()
@@ -340,7 +300,8 @@ void FrmQSOForm::bindTables()
 void FrmQSOForm::placeGrids()
 {
     for (Grid* grid : {&DBGrid1, &DBGrid2, &DBGrid3, &DBGrid4, &DBGrid5, &DBGrid6, &DBGrid7, &DBGrid8, &DBGrid9}) {
-        grid->place(120, 4720, 6600, 4180);
+        grid->place(120, 4800, 6960, 4140);
+        grid->fontPoints = 9;
         grid->gesture = RowGesture::doubleClick;
         grid->Visible = false;
     }

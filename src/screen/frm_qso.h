@@ -18,6 +18,10 @@ struct FrmQSOForm : Form {
     /// screen; scaling is left to the caller.
     void takeMaratonPlaces(bool rose = true);
 
+    /// Makes room on a screen lower than the design screen, where the received exchange steps down on the microwave
+    /// bands. Scaling is left to the caller.
+    void takeLowScreenPlaces();
+
     MenuEntry mnuBeenden{this, "mnuBeenden"};
     MenuEntry mnuAnfang{this, "mnuAnfang"};
     MenuEntry mnuRecup{this, "mnuRecup"};
@@ -239,9 +243,11 @@ struct FrmQSOForm : Form {
     void placePauses();
     void placeDuplicate();
     void placeScore();
+    void placeScoreColumns(double band, double points, double count);
     void placeMyData();
     void placeMicrowaveBands();
     void placeMessages();
+    void placeMessageRows(double top, double step, double width);
     void placeKeyingSpeed();
     void placeLegend();
     void bindTables();

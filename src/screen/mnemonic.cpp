@@ -17,7 +17,7 @@ bool opensMenu(const Control& entry)
 
 bool hasLetter(const Control& control, char32_t letter)
 {
-    return control.seen() && control.enabled() && mnemonicOf(captionOf(control)) == base::upper(letter);
+    return control.seen() && control.enabled() && letter != 0 && mnemonicOf(control) == base::upper(letter);
 }
 
 /// The menu keeps its letters, also those that only open one.
@@ -35,6 +35,8 @@ bool answersToMnemonic(const Control& control, char32_t letter)
         case Kind::commandButton:
         case Kind::optionButton:
         case Kind::checkBox:
+        case Kind::textBox:
+        case Kind::listBox:
             return true;
         case Kind::frame:
             return !standsInMenuBar(control.form, letter) && firstStopIn(control) != nullptr;
@@ -43,6 +45,13 @@ bool answersToMnemonic(const Control& control, char32_t letter)
         default:
             return false;
     }
+}
+
+/// Where several controls have one letter, the lowest rank goes first.
+int rankOf(const Control& control)
+{
+    if (control.kind == Kind::menuEntry) return 0;
+    return control.container != nullptr || control.kind == Kind::frame ? 1 : 2;
 }
 
 }  // namespace
@@ -75,6 +84,12 @@ char32_t mnemonicOf(std::string_view caption)
     return base::upper(base::characterAt(caption.substr(mark + 1), 1));
 }
 
+char32_t mnemonicOf(const Control& control)
+{
+    const char32_t marked = mnemonicOf(captionOf(control));
+    return marked != 0 ? marked : control.accessKey;
+}
+
 std::string withoutMnemonic(std::string_view caption)
 {
     std::string shown(caption);
@@ -83,13 +98,26 @@ std::string withoutMnemonic(std::string_view caption)
     return shown;
 }
 
+std::string markedCaption(const Control& control)
+{
+    const std::string& caption = captionOf(control);
+    if (control.accessKey == 0 || mnemonicOf(caption) != 0) return caption;
+    std::u32string characters = base::toCharacters(caption);
+    const auto letter = std::find_if(characters.begin(), characters.end(),
+                                     [&](char32_t character) { return base::upper(character) == control.accessKey; });
+    if (letter == characters.end()) return caption;
+    characters.insert(letter, U'&');
+    return base::fromCharacters(characters);
+}
+
 Control* controlWithMnemonic(const Form& form, char32_t letter)
 {
-    const auto& controls = form.controls();
-    const auto found = std::find_if(controls.begin(), controls.end(), [&](const Control* control) {
-        return hasLetter(*control, letter) && answersToMnemonic(*control, letter);
-    });
-    return found == controls.end() ? nullptr : *found;
+    Control* found = nullptr;
+    for (Control* control : form.controls()) {
+        if (!hasLetter(*control, letter) || !answersToMnemonic(*control, letter)) continue;
+        if (found == nullptr || rankOf(*control) < rankOf(*found)) found = control;
+    }
+    return found;
 }
 
 Control* firstStopIn(const Control& frame)

@@ -7,6 +7,8 @@
 
 namespace screen {
 
+constexpr double frameTitlePoints = 9;  ///< font of the titles of frames
+
 struct LabelRow {
     Label& label;
     const char* caption;

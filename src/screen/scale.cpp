@@ -1,6 +1,7 @@
 #include "screen/scale.h"
 
 #include "platform/machine.h"
+#include "runstate/contest_codes.h"
 #include "runstate/modul1.h"
 #include "screen/frm_init.h"
 #include "screen/frm_qso.h"
@@ -72,6 +73,7 @@ namespace qso {
 
 void MForm()
 {
+    if (Modul1.ConcId != runstate::maratonContest) FrmQSO.takeLowScreenPlaces();
     scaleForm(FrmQSO);
 }
 

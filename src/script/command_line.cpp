@@ -10,6 +10,7 @@
 #include <system_error>
 
 #include "base/runtime_error.h"
+#include "platform/files.h"
 #include "script/grammar.h"
 #include "script/parser.h"
 #include "script/session.h"
@@ -74,9 +75,10 @@ void printHelp(std::ostream& out)
 
 Script scriptIn(const std::string& fileName)
 {
-    std::ifstream stream(fileName, std::ios::binary);
+    const fs::path file = platform::pathFrom(fileName);
+    std::ifstream stream(file, std::ios::binary);
     std::error_code ignored;
-    if (!stream || fs::is_directory(fileName, ignored)) throw UnreadableScript(fileName, 0, "the file cannot be read");
+    if (!stream || fs::is_directory(file, ignored)) throw UnreadableScript(fileName, 0, "the file cannot be read");
     return parse(std::string(std::istreambuf_iterator<char>(stream), {}), fileName);
 }
 
@@ -101,7 +103,7 @@ std::optional<std::vector<Script>> scriptsIn(const std::vector<std::string>& fil
 class ProgramFolder {
  public:
     explicit ProgramFolder(const std::optional<std::string>& wanted)
-        : path_(wanted ? fs::path(*wanted) : freshPath()), temporary_(!wanted)
+        : path_(wanted ? platform::pathFrom(*wanted) : freshPath()), temporary_(!wanted)
     {
         fs::create_directories(path_);
     }

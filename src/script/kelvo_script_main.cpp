@@ -1,12 +1,10 @@
 // kelvo-script [--folder DIR] FILE...: plays scripts on the program without a screen.
 #include <iostream>
-#include <string>
-#include <vector>
 
+#include "platform/console_main.h"
 #include "script/command_line.h"
 
-int main(int count, char** words)
+int platform::consoleMain(const std::vector<std::string>& words)
 {
-    const std::vector<std::string> arguments(words + 1, words + count);
-    return script::runCommandLine(arguments, std::cout, std::cerr);
+    return script::runCommandLine(words, std::cout, std::cerr);
 }

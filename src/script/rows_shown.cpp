@@ -53,7 +53,7 @@ long currentGridRow(const screen::Grid& grid)
     const std::vector<storage::Row> rows = gridRows(grid);
     const auto current = std::find_if(rows.begin(), rows.end(),
                                       [key = *set.currentKey()](const storage::Row& row) { return row.key == key; });
-    return current == rows.end() ? 0 : current - rows.begin() + 1;
+    return current == rows.end() ? 0 : static_cast<long>(current - rows.begin() + 1);
 }
 
 std::size_t listIndex(const screen::ListBox& list, long number)

@@ -11,15 +11,13 @@
 
 #include "base/runtime_error.h"
 #include "platform/files.h"
+#include "storage/busy_wait.h"
 #include "storage/like_operator.h"
 #include "storage/prepared_statement.h"
 
 namespace storage {
 
 namespace {
-
-/// How long another program may hold the file before it counts as locked.
-constexpr int busyMilliseconds = 2000;
 
 using base::RuntimeError;
 
@@ -81,7 +79,7 @@ Connection::Connection(const std::filesystem::path& file) : file_(file), fileNam
     handle_.reset(handle);
     if (code != SQLITE_OK) raise(code, Access::reading);
     sqlite3_extended_result_codes(handle, 1);
-    sqlite3_busy_timeout(handle, busyMilliseconds);
+    waitForOtherPrograms(handle);
     takeOverLike(handle);
     prepareFile();
 }

@@ -1,11 +1,11 @@
 // kelvo-newdb FOLDER: makes the empty databases of a first installation.
 #include <filesystem>
 #include <iostream>
-#include <span>
-#include <string>
 #include <string_view>
 
 #include "base/runtime_error.h"
+#include "platform/console_main.h"
+#include "platform/files.h"
 #include "storage/schema.h"
 
 namespace {
@@ -35,10 +35,9 @@ int makeDatabases(const std::filesystem::path& folder)
 
 }  // namespace
 
-int main(int count, char** words)
+int platform::consoleMain(const std::vector<std::string>& words)
 {
-    const std::span<char*> arguments(words, static_cast<std::size_t>(count));
-    const std::string_view first = count == 2 ? arguments[1] : "";
+    const std::string_view first = words.size() == 1 ? std::string_view(words.front()) : std::string_view();
     if (first == "--help" || first == "-h") {
         std::cout << usage;
         return 0;
@@ -47,5 +46,5 @@ int main(int count, char** words)
         std::cerr << usage;
         return wrongUse;
     }
-    return makeDatabases(first);
+    return makeDatabases(platform::pathFrom(first));
 }

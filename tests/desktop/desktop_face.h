@@ -5,11 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
-#include <QDesktopServices>
 #include <QMenuBar>
 #include <QTest>
 #include <QTimer>
-#include <QUrl>
 #include <QWindow>
 #include <chrono>
 #include <deque>
@@ -26,19 +24,6 @@
 
 namespace test {
 
-/// Takes the place of the help viewer of the desktop.
-class HelpCatcher final : public QObject {
-    Q_OBJECT
- public:
-    HelpCatcher() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "open"); }
-    ~HelpCatcher() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
-
-    std::vector<std::string> opened;
-
- public Q_SLOTS:
-    void open(const QUrl& place) { opened.push_back(place.fragment().toStdString()); }
-};
-
 /// See the concept Face for what each member does.
 class DesktopFace {
  public:
@@ -54,6 +39,8 @@ class DesktopFace {
     void start()
     {
         program_ = std::make_unique<desktop::DesktopProgram>(desktop::CommandLine{folder_.path().string(), {}, {}});
+        QObject::connect(&program_->help(), &desktop::HelpFile::opened, &context_,
+                         [this](int context) { helpOpened_.push_back(std::to_string(context)); });
         program_->start();
         settle();
     }
@@ -140,7 +127,7 @@ class DesktopFace {
         });
     }
 
-    std::vector<std::string> helpOpened() const { return help_.opened; }
+    std::vector<std::string> helpOpened() const { return helpOpened_; }
 
     /// The rest is for rules of this face alone.
     desktop::DesktopProgram& program() { return *program_; }
@@ -239,7 +226,7 @@ class DesktopFace {
     }
 
     TemporaryFolder folder_;
-    HelpCatcher help_;
+    std::vector<std::string> helpOpened_;
     std::unique_ptr<desktop::DesktopProgram> program_;
     std::deque<platform::Button> answers_;
     std::vector<std::string> boxes_;

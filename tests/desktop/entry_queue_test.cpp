@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <functional>
 #include <thread>
 
 #include "base/runtime_error.h"
@@ -107,6 +109,49 @@ TEST(EntryQueueTest, StoppingEndsTheProgramWhereverItWaits)
     EXPECT_THROW(queue.poll(), base::ProgramEnd);
     queue.post(typed(U'a'));
     EXPECT_FALSE(queue.waitUntil(std::nullopt));
+}
+
+TEST(EntryQueueTest, AProgramThatOnlyWorksIsBusyAllTheTime)
+{
+    const EntryQueue queue;
+    const auto made = std::chrono::steady_clock::now();
+    const auto since = std::chrono::steady_clock::now() - made;
+    EXPECT_GE(queue.busyFor(), since) << "the start counts too";
+}
+
+TEST(EntryQueueTest, ALookIntoTheQueueAndARestBeginAnew)
+{
+    EntryQueue queue;
+    const std::function<void()> rests[] = {
+        [&] { queue.poll(); },
+        [&] { queue.noteRest(); },
+        [&] { queue.waitUntil(platform::MonotonicTime(1)); },
+    };
+    for (const auto& rest : rests) {
+        const auto before = std::chrono::steady_clock::now();
+        rest();
+        const auto busy = queue.busyFor();
+        EXPECT_LE(busy, std::chrono::steady_clock::now() - before);
+    }
+}
+
+TEST(EntryQueueTest, AProgramThatWaitsIsNotBusy)
+{
+    EntryQueue queue;
+    std::thread program([&] {
+        queue.waitUntil(std::nullopt);
+        queue.waitForAnswer();
+    });
+    while (!queue.waitsForEntry())
+        std::this_thread::yield();
+    EXPECT_EQ(queue.busyFor().count(), 0);
+    queue.post(typed(U'a'));
+    while (!queue.idle())
+        std::this_thread::yield();
+    EXPECT_FALSE(queue.waitsForEntry()) << "it waits for an answer";
+    EXPECT_EQ(queue.busyFor().count(), 0);
+    queue.post(app::BoxAnswered{platform::buttonOk});
+    program.join();
 }
 
 }  // namespace

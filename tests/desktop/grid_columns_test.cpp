@@ -62,6 +62,37 @@ TEST(GridColumnsTest, ColumnsGrowWithTheWindowAsFarAsThereIsRoom)
     EXPECT_EQ(widthIn(70), 70);
 }
 
+TEST(GridColumnsTest, ColumnsThatNearlyFillTheRoomFillIt)
+{
+    test_page::Page page;
+    const app::ControlPicture& grid = page.addGrid({0, 0, 6000, 3000}, 3, false, false);
+    desktop::Fonts fonts;
+    const desktop::FormScale scale(12000, 9000, {800, 600});
+    EXPECT_EQ(desktop::layOutColumns(grid, scale, fonts, 100, 11).columns[0].width, 100);
+    EXPECT_EQ(desktop::layOutColumns(grid, scale, fonts, 110, 11).columns[0].width, 80);
+}
+
+TEST(GridColumnsTest, AColumnOfWholeNumbersIsKnown)
+{
+    const auto isOfFigures = [](const std::vector<std::string>& texts) {
+        test_page::Page page;
+        app::ControlPicture& control = page.addGrid({0, 0, 6000, 3000}, 0, false, false);
+        auto rows = std::make_shared<app::GridRows>();
+        for (const std::string& text : texts)
+            rows->rows.push_back({1, {"1", text}});
+        auto grid = std::make_shared<app::GridPicture>(*control.grid);
+        grid->rows = rows;
+        control.grid = grid;
+        desktop::Fonts fonts;
+        const desktop::FormScale scale(12000, 9000, {800, 600});
+        return desktop::layOutColumns(control, scale, fonts, 400, 11).columns.at(0).figures;
+    };
+    EXPECT_TRUE(isOfFigures({"72", "1250", "0"}));
+    EXPECT_FALSE(isOfFigures({"72", "YO2ABC"}));
+    EXPECT_FALSE(isOfFigures({"72", ""}));
+    EXPECT_FALSE(isOfFigures({}));
+}
+
 TEST(GridColumnsTest, TheFontGetsSmallerWhenThereIsNoRoomAtAll)
 {
     test_page::Page page;

@@ -125,6 +125,9 @@ TEST(KeyTranslatorTest, KeysOfTheSystemAreNobodys)
     KeyTranslator translator;
     EXPECT_EQ(told(down(translator, Stroke{Qt::Key_F4, "", Qt::AltModifier})), "");
     EXPECT_EQ(told(down(translator, Stroke{Qt::Key_L, "l", Qt::MetaModifier})), "");
+    EXPECT_EQ(told(down(translator, Stroke{Qt::Key_4, "4", Qt::AltModifier | Qt::KeypadModifier})), "")
+        << "some systems compose characters by their numbers with it";
+    EXPECT_NE(told(down(translator, Stroke{Qt::Key_4, "4", Qt::AltModifier})), "");
     EXPECT_EQ(told(down(translator, Stroke{Qt::Key_Shift, "", Qt::ShiftModifier})), "");
     EXPECT_EQ(told(up(translator, Stroke{Qt::Key_Shift})), "");
 }

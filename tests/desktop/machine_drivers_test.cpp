@@ -72,10 +72,19 @@ TEST(CommandLineTest, AFolderAndAWord)
     EXPECT_EQ(words.words, "AUTO x");
 }
 
-TEST(CommandLineTest, AFolderThatIsNotThereIsToldOf)
+TEST(CommandLineTest, AFolderWithoutANameIsToldOf)
 {
     EXPECT_FALSE(desktop::readCommandLine({"kelvo", "--folder"}, "/").complaint.isEmpty());
-    EXPECT_FALSE(desktop::readCommandLine({"kelvo", "--folder", "/there/is/none"}, "/").complaint.isEmpty());
+    EXPECT_FALSE(desktop::readCommandLine({"kelvo", "--folder", ""}, "/").complaint.isEmpty());
+}
+
+TEST(CommandLineTest, AFolderThatIsNotThereIsTakenAsItIs)
+{
+    const auto line = desktop::readCommandLine({"kelvo", "--folder", "/there/is/none"}, "/");
+    EXPECT_TRUE(line.complaint.isEmpty());
+    EXPECT_EQ(line.programFolder, "/there/is/none");
+    EXPECT_TRUE(line.folderGiven);
+    EXPECT_FALSE(desktop::readCommandLine({"kelvo"}, "/").folderGiven);
 }
 
 class FixedClock final : public platform::Clock {
@@ -108,7 +117,7 @@ TEST(HelpFileTest, AMissingFileGivesANotice)
     const QTemporaryDir folder;
     const FixedClock clock;
     desktop::TimedNotices notices(clock);
-    desktop::HelpFile help(folder.path().toStdString(), notices);
+    desktop::HelpFile help(folder.path().toStdString(), {}, notices);
     help.open(100);
     EXPECT_EQ(notices.last(), "09:05:07  The help file Sontrel.HLP is not there");
 }
@@ -120,6 +129,15 @@ TEST(MachineClockTest, SleepingEndsAtTheDeadlineAndNotBefore)
     clock.sleepUntil(deadline);
     EXPECT_GE(clock.monotonic(), deadline);
     clock.sleepUntil(deadline);
+}
+
+TEST(MachineClockTest, EverySleepIsToldOf)
+{
+    int sleeps = 0;
+    desktop::MachineClock clock({}, [&] { ++sleeps; });
+    clock.sleepUntil(clock.monotonic());
+    clock.sleepUntil(clock.monotonic() + std::chrono::milliseconds(1));
+    EXPECT_EQ(sleeps, 2);
 }
 
 TEST(MachineClockTest, TheEndOfTheProgramEndsASleep)

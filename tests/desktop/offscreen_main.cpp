@@ -2,7 +2,11 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <cstdio>
+
+#include "desktop/look.h"
 
 namespace {
 
@@ -22,10 +26,13 @@ int main(int argc, char** argv)
     if (!qEnvironmentVariableIsSet("ALSOFT_DRIVERS")) qputenv("ALSOFT_DRIVERS", "null");
     // Nor does a sheet leave a printer: they are asked for where no print service answers.
     qputenv("CUPS_SERVER", "/nowhere/cups.sock");
+    // What the windows keep for their user stays in a folder of the run.
+    const QTemporaryDir settings;
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
     testing::InitGoogleTest(&argc, argv);
     qInstallMessageHandler(passOnMessage);
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    desktop::styleApplication();
     return RUN_ALL_TESTS();
 }

@@ -51,7 +51,7 @@ gone() { ! alive; }
 server_is_ready() { [ -s "$work/display" ]; }
 title_has() { xdotool getwindowname "$window" 2>/dev/null | grep -q "$1"; }
 
-boxes() { xdotool search --onlyvisible --name '^(Kelvo|EXIT)$' 2>/dev/null | grep -vx "$window"; }
+boxes() { xdotool search --onlyvisible --name '^(Kelvo|EXIT|INPUT DATA|DECLARATIE|DRUCKEN)$' 2>/dev/null | grep -vx "$window"; }
 box_is_open() { [ -n "$(boxes)" ]; }
 no_box_is_open() { ! box_is_open; }
 

@@ -84,6 +84,16 @@ TEST_F(SoundDevicesTest, ADeviceThatIsPluggedInLaterPlays)
     EXPECT_EQ(notices.last(), "");
 }
 
+TEST_F(SoundDevicesTest, DevicesCountedAheadAreCountedOnce)
+{
+    device("pcm.!default { type null }\n");
+    desktop::SoundDevices sound(notices);
+    sound.countAhead();
+    EXPECT_EQ(sound.outputDevices(), 1);
+    device("");
+    EXPECT_EQ(sound.outputDevices(), 0) << "the next time they are counted anew";
+}
+
 TEST_F(SoundDevicesTest, TheEndOfTheProgramEndsAMessage)
 {
     device("pcm.!default { type null }\n");

@@ -14,7 +14,7 @@ struct SoundFormat {
     unsigned channels = 1;
 };
 
-inline std::string littleEndian(unsigned long value, unsigned bytes)
+inline std::string littleEndian(std::uint64_t value, unsigned bytes)
 {
     std::string text;
     for (unsigned i = 0; i < bytes; ++i)
@@ -31,7 +31,7 @@ inline std::string soundFile(const SoundFormat& format, unsigned milliseconds)
         const double wave = 0.5 * std::sin(2 * std::numbers::pi * tone * i / format.samplesPerSecond);
         const long sample = format.bitsPerSample == 8 ? std::lround(128 + 127 * wave) : std::lround(32767 * wave);
         for (unsigned channel = 0; channel < format.channels; ++channel)
-            samples += littleEndian(static_cast<unsigned long>(sample), format.bitsPerSample / 8);
+            samples += littleEndian(static_cast<std::uint64_t>(sample), format.bitsPerSample / 8);
     }
     const unsigned frame = format.channels * format.bitsPerSample / 8;
     const std::string head = "WAVEfmt " + littleEndian(16, 4) + littleEndian(1, 2) + littleEndian(format.channels, 2) +

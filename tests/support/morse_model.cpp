@@ -29,7 +29,7 @@ long spacingSpeed(int wpm)
 
 long millisecondsBetween(const TimedEvent& earlier, const TimedEvent& later)
 {
-    return std::chrono::duration_cast<std::chrono::milliseconds>(later.at - earlier.at).count();
+    return static_cast<long>(std::chrono::duration_cast<std::chrono::milliseconds>(later.at - earlier.at).count());
 }
 
 std::string trimmed(std::string_view text)

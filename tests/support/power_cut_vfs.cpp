@@ -7,6 +7,7 @@
 #include <new>
 #include <utility>
 
+#include "platform/files.h"
 #include "support/temporary_folder.h"
 
 namespace test {
@@ -280,7 +281,7 @@ void PowerCutVfs::load(const std::filesystem::path& file)
     auto loaded = std::make_shared<File>();
     loaded->present = readFile(file);
     loaded->synchronise();
-    files_[file.string()] = std::move(loaded);
+    files_[platform::pathText(file)] = std::move(loaded);
 }
 
 PowerCutVfs::Files PowerCutVfs::files() const

@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "base/text.h"
+#include "platform/files.h"
 #include "runstate/modul1.h"
 #include "screen/frm_init.h"
 #include "screen/frm_qso.h"
@@ -28,7 +29,7 @@ std::string callNumber(int number)
 
 PlainLog::PlainLog(const fs::path& file)
 {
-    if (sqlite3_open_v2(file.c_str(), &handle_, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK)
+    if (sqlite3_open_v2(platform::pathText(file).c_str(), &handle_, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK)
         throw std::runtime_error("the log cannot be opened");
     execute("PRAGMA journal_mode=TRUNCATE");
     execute("PRAGMA synchronous=FULL");

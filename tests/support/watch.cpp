@@ -124,7 +124,7 @@ bool Watch::noted(const std::string& line) const
 
 long Watch::countOf(const std::string& line) const
 {
-    return std::count(log_.begin(), log_.end(), line);
+    return static_cast<long>(std::count(log_.begin(), log_.end(), line));
 }
 
 void Watch::heard(std::size_t slot, const char* event, const std::map<const Control*, Event>& actions)

@@ -1,17 +1,13 @@
-#include "desktop/termination_signals.h"
-
-#ifdef Q_OS_UNIX
 #include <fcntl.h>
 #include <unistd.h>
 
 #include <QSocketNotifier>
 #include <array>
 #include <csignal>
-#endif
+
+#include "desktop/termination_signals.h"
 
 namespace desktop {
-
-#ifdef Q_OS_UNIX
 
 namespace {
 
@@ -65,15 +61,5 @@ TerminationSignals::~TerminationSignals()
         end = -1;
     }
 }
-
-#else
-
-TerminationSignals::TerminationSignals(std::function<void()> asked) : asked_(std::move(asked))
-{
-}
-
-TerminationSignals::~TerminationSignals() = default;
-
-#endif
 
 }  // namespace desktop

@@ -1,37 +1,12 @@
-#include "desktop/keying_priority.h"
-
-#if defined(_WIN32)
-#include <windows.h>
-// Behind the header that it needs.
-#include <mmsystem.h>
-#else
 #include <pthread.h>
 #include <sched.h>
-#endif
+
+#include "desktop/keying_priority.h"
 #if defined(__linux__)
 #include <sys/prctl.h>
 #endif
 
 namespace desktop {
-
-#if defined(_WIN32)
-
-KeyingPriority::KeyingPriority() : priorityBefore_(GetThreadPriority(GetCurrentThread()))
-{
-    raised_ = SetThreadPriority(GetCurrentThread(), THREAD_PRIORITY_TIME_CRITICAL) != 0;
-}
-
-KeyingPriority::~KeyingPriority()
-{
-    if (raised_) SetThreadPriority(GetCurrentThread(), priorityBefore_);
-}
-
-void sharpenTimers()
-{
-    timeBeginPeriod(1);
-}
-
-#else
 
 KeyingPriority::KeyingPriority()
 {
@@ -62,7 +37,5 @@ void sharpenTimers()
     prctl(PR_SET_TIMERSLACK, nanoseconds, 0, 0, 0);
 #endif
 }
-
-#endif
 
 }  // namespace desktop

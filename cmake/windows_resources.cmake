@@ -1,0 +1,17 @@
+# What stands in a Windows program file beside its code: version, manifest, icon.
+enable_language(RC)
+
+# add_windows_resources(TARGET DESCRIPTION)
+function(add_windows_resources KELVO_TARGET KELVO_DESCRIPTION)
+    set(KELVO_WINDOWS_FILES ${CMAKE_SOURCE_DIR}/packaging/windows)
+    string(REPLACE . , KELVO_VERSION_NUMBERS "${PROJECT_VERSION}.0.0.0.0")
+    string(REGEX MATCH "^[0-9]+,[0-9]+,[0-9]+,[0-9]+" KELVO_VERSION_NUMBERS "${KELVO_VERSION_NUMBERS}")
+    set(icon ${CMAKE_SOURCE_DIR}/packaging/icons/kelvo.ico)
+    if(EXISTS ${icon})
+        set(KELVO_ICON_LINE "1 ICON \"${icon}\"")
+    endif()
+    set(script ${CMAKE_CURRENT_BINARY_DIR}/${KELVO_TARGET}.rc)
+    configure_file(${KELVO_WINDOWS_FILES}/program.rc.in ${script} @ONLY)
+    set_source_files_properties(${script} PROPERTIES OBJECT_DEPENDS ${KELVO_WINDOWS_FILES}/program.manifest)
+    target_sources(${KELVO_TARGET} PRIVATE ${script})
+endfunction()
