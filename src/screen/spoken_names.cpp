@@ -68,6 +68,7 @@ const SpokenName entryNames[] = {
     {&FrmQSO.LblPkt3, {&FrmQSO.LblBand3, &FrmQSO.LblPktCol}, ""},
     {&FrmQSO.LblQSO3, {&FrmQSO.LblBand3, &FrmQSO.LblQSOCol}, ""},
     {&FrmQSO.lblWPM, {&FrmQSO.LblSpeedUnit}, ""},
+    {&FrmQSO.Frame2, {}, "Score"},
     {&FrmQSO.Frame6, {}, "Keys"},
     {&FrmQSO.DBGrid1, {}, "Log 144 MHz A"},
     {&FrmQSO.DBGrid2, {}, "Log 144 MHz B"},

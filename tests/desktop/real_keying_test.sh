@@ -74,7 +74,8 @@ expect_stopped() {
 
 # The pixels of the field that shows how far a message is: some lines out of the server's picture of the screen.
 progress_field() {
-    local picture=$work/screen/Xvfb_screen0 bytes_per_line=$((screen_width * 4)) top=408 height=16
+    local picture=$work/screen/Xvfb_screen0 bytes_per_line=$((screen_width * 4)) top height=16
+    top=$((22 + 6120 * (screen_height - 22 - 19) / 9000))  # below the menu, above the notices
     local begin=$(($(stat -c %s "$picture") - screen_width * screen_height * 4))
     dd if="$picture" iflag=skip_bytes,count_bytes skip=$((begin + top * bytes_per_line)) \
         count=$((height * bytes_per_line)) status=none | cksum
