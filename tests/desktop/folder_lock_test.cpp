@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QFile>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -127,6 +128,17 @@ TEST_F(FolderLockTest, WhatAnotherComputerLeftIsTakenOverOnlyOnDemand)
     FolderLock second(folder_.path());
     EXPECT_EQ(second.take(), Outcome::heldByAnother);
     EXPECT_TRUE(second.holder().onThisComputer);
+}
+
+TEST_F(FolderLockTest, NoContestIsSoLongThatALockIsForgotten)
+{
+    write(linesOfAnotherComputer());
+    QFile old(file());
+    ASSERT_TRUE(old.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(old.setFileTime(QDateTime::currentDateTime().addDays(-2), QFileDevice::FileModificationTime));
+    old.close();
+    FolderLock lock(folder_.path());
+    EXPECT_EQ(lock.take(), Outcome::heldByAnother);
 }
 
 TEST_F(FolderLockTest, AProgramAtWorkOnAnotherComputerIsNotTakenOver)
