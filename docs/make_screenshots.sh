@@ -243,7 +243,7 @@ picture_paper_log() {
     pick_contest OpBCampNatUUS
     menu mnuInputLog alt+i
     keys Ctrl+a
-    text 02.08.2026
+    text 02.08.26
     keys Enter Ctrl+a
     text 06:00
     start_entry

@@ -34,7 +34,7 @@ constexpr TextRow stationTexts[] = {
     {&State::MyCall, "YO2XYZ"},       {&State::MyQRA, "KN05OS"},  {&State::TimeDiff, "2"},
     {&State::CfgSection, "MULTI OP"}, {&State::CfgOp, "ION POP"}, {&State::CfgQTH, "TIMISOARA"},
     {&State::CfgAds, "STR. LUNGA 7"}, {&State::CfgTx, "100 W"},   {&State::CfgRx, "NF 0.8"},
-    {&State::CfgAnt, "2M5WL"},        {&State::CfgAnt2, "19 EL"}, {&State::CfgAnt3, "35 EL"},
+    {&State::CfgAnt, "17 EL"},        {&State::CfgAnt2, "19 EL"}, {&State::CfgAnt3, "35 EL"},
     {&State::CfgAnt4, "DISH 1.2 M"},  {&State::CfgClub, "CS XY"}, {&State::MyName, "ION"},
 };
 
@@ -46,7 +46,7 @@ constexpr TextRow messages[] = {
 
 const std::string fullStation =
     "YO2XYZ\r\nKN05OS\r\n2\r\n 12 \r\nMULTI OP\r\nION POP\r\n 3 \r\nTIMISOARA\r\nSTR. LUNGA 7\r\n100 W\r\nNF 0.8\r\n"
-    "2M5WL\r\n19 EL\r\n35 EL\r\nDISH 1.2 M\r\nCS XY\r\nION\r\n";
+    "17 EL\r\n19 EL\r\n35 EL\r\nDISH 1.2 M\r\nCS XY\r\nION\r\n";
 const std::string fullMessages = "CQ TEST DE #1\r\n#2 599#3 #4\r\nTU\r\nQRZ? DE #1\r\nAGN?\r\nQRX\r\n73 SK\r\n 4 \r\n";
 
 using test::errorOf;

@@ -35,6 +35,13 @@ newest=$(objdump -T "$place"/kelvo{,-newdb,-script} "$place"/lib/* "$place"/plug
     tail -n 1)
 grep -q "glibc ${newest#GLIBC_}" "$place/README.txt" || fail "README.txt does not ask for $newest"
 
+# What the operator's documents show and lead to is beside them.
+grep -ohE '\]\([^)#]+' "$place"/docs/*.md | cut -c 3- | sort -u >"$work/links"
+[ "$(wc -l <"$work/links")" -gt 15 ] || fail "the documents have too few links"
+while read -r link; do
+    [ -s "$place/docs/$link" ] || fail "docs/ has no $link"
+done <"$work/links"
+
 # A whole contest by the scripted operator.
 "$place/kelvo-script" --folder "$work/played" "$demonstration" >"$work/script.log" || fail "$(cat "$work/script.log")"
 grep -q ' passed, 0 failed$' "$work/script.log" || fail "no contest was played"

@@ -75,6 +75,7 @@ done
 cp "$packaging"/icons/kelvo.svg "$packaging"/icons/kelvo-*.png "$folder/icons"
 cp "$packaging/linux/README.txt" "$folder"
 install -m 755 "$packaging/linux/install-desktop-entry" "$folder"
+"$packaging/lay_out_documents.sh" "$folder/docs"
 
 # ---- Licences: who made what lies in the folder, and from which package it is.
 

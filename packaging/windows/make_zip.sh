@@ -20,6 +20,8 @@ x86_64-w64-mingw32-strip "$folder"/*.exe
 "$newdb" "$folder/empty" >/dev/null
 # Read with the editor that every Windows has.
 sed 's/$/\r/' packaging/windows/README.txt > "$folder/README.txt"
+packaging/lay_out_documents.sh "$folder/docs"
+sed -i 's/$/\r/' "$folder"/docs/*.md
 sed 's/$/\r/' LICENSE > "$folder/licences/Kelvo.txt"
 cp "$licences"/* "$folder/licences/"
 

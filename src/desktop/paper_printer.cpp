@@ -14,6 +14,7 @@
 #include "base/text.h"
 #include "desktop/column_width.h"
 #include "platform/files.h"
+#include "review/folders.h"
 
 namespace desktop {
 
@@ -72,7 +73,7 @@ void PaperPrinter::choosePaper(const std::string& name)
     printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
     file_.clear();
     if (QPrinterInfo::defaultPrinter().isNull()) {
-        file_ = platform::resolve(programFolder_ + "\\Log\\" + fileName(name) + ".pdf");
+        file_ = platform::resolve(programFolder_ + "\\" + review::logFolderName + "\\" + fileName(name) + ".pdf");
         beside_ = file_;
         beside_ += ".new";
         std::error_code thereOrNot;

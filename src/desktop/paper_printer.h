@@ -1,4 +1,4 @@
-// The default printer of this computer, or a PDF in the folder Log where there is none.
+// The default printer of this computer, or a PDF in the folder LOG where there is none.
 #pragma once
 
 #include <QFont>

@@ -84,7 +84,7 @@ std::string sentence(int number, const Refused& refused)
             break;
     }
     return port + " is not there: plug the adapter in, or make a link COM" + base::toText(number) +
-           " to its device beside the program";
+           " to its device beside LogKelvo.mdb";
 }
 
 /// Opens one device. Nothing, and the reason in `refusal`, when it cannot be the port.

@@ -16,8 +16,22 @@ namespace desktop {
 
 namespace {
 
-/// SQLite takes a path of 512 bytes; the longest name in the folder is that of a journal of a database in the making.
+// The longest path of a folder that leaves room for the names in it.
+#ifdef Q_OS_WIN
+/// In characters: Windows takes 260 in all, and the name of a file for the organisers in LOG may need 50 of them.
+constexpr qsizetype longestFolder = 200;
+qsizetype lengthOf(const QString& folder)
+{
+    return folder.size();
+}
+#else
+/// In bytes: SQLite takes 512; the longest name in the folder is that of a journal of a database in the making.
 constexpr qsizetype longestFolder = 470;
+qsizetype lengthOf(const QString& folder)
+{
+    return folder.toUtf8().size();
+}
+#endif
 
 /// Bytes that a few QSOs and their journal take.
 constexpr qsizetype roomToBegin = 262144;
@@ -67,7 +81,7 @@ std::optional<Obstacle> obstacleOfFolder(const QString& folder)
     const QFileInfo place(folder);
     if (!place.exists()) return Obstacle{Trouble::noFolder, folder};
     if (!place.isDir()) return Obstacle{Trouble::aFile, folder};
-    if (folder.toUtf8().size() > longestFolder) return Obstacle{Trouble::pathTooLong, folder};
+    if (lengthOf(folder) > longestFolder) return Obstacle{Trouble::pathTooLong, folder};
     const QString databases = databaseFolderOf(folder);
     if (!QFileInfo(databases).isDir()) return Obstacle{Trouble::databasesElsewhere, folder, {}, databases};
     if (auto obstacle = writeForTrial(databases)) return obstacle;

@@ -31,16 +31,14 @@ std::string archiveFolder()
     return Modul1.AppDir + "\\Arhiva";
 }
 
-// A folder is made in capitals, and found in whatever case it is.
-
 void OrdLog()
 {
-    makeMissing(Modul1.AppDir + "\\LOG");
+    makeMissing(Modul1.AppDir + "\\" + logFolderName);
 }
 
 void OrdArhiva()
 {
-    makeMissing(Modul1.AppDir + "\\ARHIVA");
+    makeMissing(Modul1.AppDir + "\\" + archiveFolderName);
 }
 
 }  // namespace review

@@ -5,6 +5,10 @@
 
 namespace review {
 
+/// Their names, in capitals as they are made. They are found in whatever case they are.
+inline constexpr const char* logFolderName = "LOG";
+inline constexpr const char* archiveFolderName = "ARHIVA";
+
 /// Path of the folder for exported files, in the program's own form.
 std::string logFolder();
 

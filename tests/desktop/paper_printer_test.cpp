@@ -41,7 +41,7 @@ class PaperPrinterTest : public testing::Test {
         ASSERT_TRUE(QPrinterInfo::defaultPrinter().isNull()) << "A real printer would print these tests";
     }
 
-    fs::path file(const std::string& name) const { return fs::path(folder_.path().toStdString()) / "Log" / name; }
+    fs::path file(const std::string& name) const { return fs::path(folder_.path().toStdString()) / "LOG" / name; }
 
     /// The text of a page, its lines as they stand on the paper.
     QStringList textOf(const std::string& name, int page) const
@@ -77,7 +77,7 @@ class PaperPrinterTest : public testing::Test {
     desktop::PaperPrinter printer{folder_.path().toStdString(), notices};
 };
 
-TEST_F(PaperPrinterTest, WithoutAPrinterThePagesGoIntoTheFolderLog)
+TEST_F(PaperPrinterTest, WithoutAPrinterThePagesGoIntoTheFolderOfTheLogs)
 {
     onAnotherThread([&] {
         printer.begin("YO2XYZ 144A");
@@ -146,7 +146,7 @@ TEST_F(PaperPrinterTest, AnotherPrintReplacesTheFile)
 
 TEST_F(PaperPrinterTest, AFileThatCannotBeWrittenIsAnErrorOnceAndTheNextOnePrints)
 {
-    std::ofstream(fs::path(folder_.path().toStdString()) / "Log") << "no folder";
+    std::ofstream(fs::path(folder_.path().toStdString()) / "LOG") << "no folder";
     int error = 0;
     try {
         printer.begin("sheet");
@@ -161,7 +161,7 @@ TEST_F(PaperPrinterTest, AFileThatCannotBeWrittenIsAnErrorOnceAndTheNextOnePrint
     printer.endDocument();
     EXPECT_TRUE(notices.heard.empty());
 
-    fs::remove(fs::path(folder_.path().toStdString()) / "Log");
+    fs::remove(fs::path(folder_.path().toStdString()) / "LOG");
     printOneLine("sheet", "printed");
     EXPECT_EQ(textOf("sheet.pdf", 1).join('|').simplified().toStdString(), "printed");
 }

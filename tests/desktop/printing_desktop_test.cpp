@@ -53,7 +53,7 @@ class PrintingDesktopTest : public testing::Test {
         station.answer(QMessageBox::Yes);
     }
 
-    std::string file(const std::string& name) { return station.folder() + "/Log/" + name; }
+    std::string file(const std::string& name) { return station.folder() + "/LOG/" + name; }
 
     QStringList read(const QString& program, const QStringList& arguments)
     {

@@ -20,6 +20,7 @@ using base::noSuchPort;
 using test::errorOf;
 using test::SerialAdapter;
 using test::TemporaryFolder;
+using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -148,7 +149,9 @@ TEST_F(SerialPortTest, ANumberThatNoPortHas)
     EXPECT_THAT(whyNot(0), HasSubstr("no serial port 0"));
     EXPECT_THAT(whyNot(-1), HasSubstr("no serial port -1"));
     for (const int number : {4321, 32767, std::numeric_limits<int>::max()})
-        EXPECT_THAT(whyNot(number), HasSubstr("port " + std::to_string(number) + " is not there"));
+        EXPECT_THAT(whyNot(number), AllOf(HasSubstr("port " + std::to_string(number) + " is not there"),
+                                          HasSubstr("make a link COM" + std::to_string(number) +
+                                                    " to its device beside LogKelvo.mdb")));
     EXPECT_EQ(errorOf([&] { serial.open(std::numeric_limits<int>::min()); }), noSuchPort);
 }
 
