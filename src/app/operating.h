@@ -27,8 +27,8 @@ screen::Control* nextStop(const screen::Form& form, const screen::Control* from,
 /// What a key does to a button, an option, a check box or a list that has the focus.
 void operate(screen::Control& control, const platform::Key& key);
 
-/// Ctrl with an arrow or Delete acts on the rows in view, wherever the focus is, and with Page Up, Page Down, Home or
-/// End where the fields of the form have no use for these. False for other keys.
+/// True for a key that acts on the rows in view, wherever the focus is: Ctrl with an arrow or Delete, and with Page Up,
+/// Page Down, Home or End where the fields of the form have no use for these.
 bool isForGrid(const platform::Key& key);
 
 /// Does what a key for the grid does to the one in view. Nothing where none is.

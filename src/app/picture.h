@@ -44,8 +44,8 @@ struct ControlPicture {
     bool hasFocus = false;
     bool checked = false;  ///< option chosen, box checked
     bool rightAligned = false;
-    std::vector<screen::Rectangle>
-        heads;  ///< what the words of a label stand above, twips, from the corner of the form
+    /// What the words of a label stand above, twips, from the corner of the form.
+    std::vector<screen::Rectangle> heads;
     bool inputMethod = true;
     std::size_t selStart = 0;  ///< characters
     std::size_t selLength = 0;

@@ -25,7 +25,7 @@ class AccessibleNotice final : public QAccessibleWidget {
 
     QString text(QAccessible::Text kind) const override
     {
-        return kind == QAccessible::Name ? line_.notice() : QAccessibleWidget::text(kind);
+        return kind == QAccessible::Name ? line_.shown() : QAccessibleWidget::text(kind);
     }
 
  private:

@@ -36,6 +36,32 @@ QString textIn(const storage::Row& row, std::size_t column)
     return column < row.columns.size() ? toolkitText(row.columns[column]) : QString();
 }
 
+/// Where the cells of a grid lie in the window.
+class CellPlaces {
+ public:
+    CellPlaces(FormSurface& surface, const app::ControlPicture& grid)
+        : layout_(surface.grid(grid)), columns_(surface.gridColumns(grid).columns)
+    {
+    }
+
+    /// Row -1 is the header. Empty for a cell that is not in view.
+    QRect of(int row, int column) const
+    {
+        if (column >= static_cast<int>(columns_.size()) || row >= static_cast<int>(layout_.capacity)) return {};
+        const double left = std::accumulate(columns_.begin(), columns_.begin() + column, 0.0,
+                                            [](double sum, const GridColumn& each) { return sum + each.width; });
+        const int from = layout_.body.left() + static_cast<int>(std::lround(left));
+        const double width = columns_[static_cast<std::size_t>(column)].width;
+        const int to = layout_.body.left() + static_cast<int>(std::lround(left + width));
+        if (row < 0) return {from, layout_.header.top(), to - from, layout_.header.height()};
+        return {from, layout_.body.top() + row * layout_.rowHeight, to - from, layout_.rowHeight};
+    }
+
+ private:
+    GridLayout layout_;
+    std::vector<GridColumn> columns_;
+};
+
 }  // namespace
 
 QAccessibleInterface* AccessibleGrid::child(int index) const
@@ -57,8 +83,12 @@ int AccessibleGrid::indexOfChild(const QAccessibleInterface* child) const
 
 QAccessibleInterface* AccessibleGrid::childAt(int x, int y) const
 {
+    const app::ControlPicture* grid = picture();
+    if (grid == nullptr) return nullptr;
+    const CellPlaces places(surface(), *grid);
+    const int columns = columnCount();
     for (int index = 0; index < childCount(); ++index)
-        if (QAccessibleInterface* cell = child(index); cell->rect().contains(x, y)) return cell;
+        if (onScreen(places.of(index / columns - 1, index % columns)).contains(x, y)) return child(index);
     return nullptr;
 }
 
@@ -160,17 +190,7 @@ QString AccessibleCell::text(QAccessible::Text kind) const
 QRect AccessibleCell::rect() const
 {
     if (!isValid()) return {};
-    const GridLayout layout = surface().grid(*picture());
-    const std::vector<GridColumn> columns = surface().gridColumns(*picture()).columns;
-    const auto column = static_cast<std::size_t>(columnIndex());
-    if (column >= columns.size() || rowIndex() >= static_cast<int>(layout.capacity)) return {};
-    const double left = std::accumulate(columns.begin(), columns.begin() + columnIndex(), 0.0,
-                                        [](double sum, const GridColumn& each) { return sum + each.width; });
-    const int top = isTitle() ? layout.header.top() : layout.body.top() + rowIndex() * layout.rowHeight;
-    const int height = isTitle() ? layout.header.height() : layout.rowHeight;
-    const int from = layout.body.left() + static_cast<int>(std::lround(left));
-    const int to = layout.body.left() + static_cast<int>(std::lround(left + columns[column].width));
-    return onScreen({from, top, to - from, height});
+    return onScreen(CellPlaces(surface(), *picture()).of(rowIndex(), columnIndex()));
 }
 
 QAccessible::State AccessibleCell::state() const

@@ -213,6 +213,7 @@ void tellFocus(FormView& view)
 void tellNotice(QWidget& line)
 {
     QAccessibleInterface* about = QAccessible::queryAccessibleInterface(&line);
+    if (about == nullptr) return;
     send(about, QAccessible::NameChanged);
     if (!about->text(QAccessible::Name).isEmpty()) send(about, QAccessible::ObjectShow);
 }

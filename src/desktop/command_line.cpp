@@ -16,6 +16,9 @@ CommandLine readCommandLine(const QStringList& arguments, const QString& ownFold
         folder = words.takeAt(option + 1);
         words.removeAt(option);
     }
+    // A folder that was meant and not understood would put the QSOs into another log.
+    for (const QString& word : words)
+        if (word.startsWith(QStringLiteral("--"))) return {{}, {}, word + QStringLiteral(" is no option of Kelvo")};
     return {QDir::toNativeSeparators(QDir::cleanPath(QFileInfo(folder).absoluteFilePath())).toStdString(),
             words.join(QLatin1Char(' ')).toStdString(),
             {},

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "desktop/deadline_sleep.h"
+#include "desktop/windows_handle.h"
 
 // Windows 10 has it since its version 1803; the headers of the compiler may be older.
 #ifndef CREATE_WAITABLE_TIMER_HIGH_RESOLUTION
@@ -12,23 +13,6 @@
 namespace desktop {
 
 namespace {
-
-/// Something of the system that can be waited for.
-class Waitable {
- public:
-    explicit Waitable(HANDLE handle) : handle_(handle) {}
-    ~Waitable()
-    {
-        if (handle_ != nullptr) CloseHandle(handle_);
-    }
-    Waitable(const Waitable&) = delete;
-    Waitable& operator=(const Waitable&) = delete;
-
-    HANDLE handle() const { return handle_; }
-
- private:
-    HANDLE handle_;
-};
 
 /// A timer that is not bound to the ticks of the system, or where there is none such, one that is.
 HANDLE makeTimer()
@@ -51,16 +35,19 @@ LARGE_INTEGER fromNow(std::chrono::nanoseconds time)
 
 void sleepUntilDeadline(std::chrono::steady_clock::time_point deadline, const std::stop_token& stopped)
 {
-    const Waitable timer(makeTimer());
-    const Waitable stop(CreateEventW(nullptr, TRUE, FALSE, nullptr));
-    const std::stop_callback wake(stopped, [&stop] { SetEvent(stop.handle()); });
-    const std::array<HANDLE, 2> either{timer.handle(), stop.handle()};
-    // The timer runs by another clock of the system, which may come a little early.
+    const WindowsHandle timer(makeTimer());
+    const WindowsHandle stop(CreateEventW(nullptr, TRUE, FALSE, nullptr));
+    const std::stop_callback wake(stopped, [&stop] { SetEvent(stop.get()); });
+    const std::array<HANDLE, 2> either{timer.get(), stop.get()};
+    // The timer runs by another clock of the system, which may come a little early. The limit of the wait is for a
+    // timer that cannot be set: the key may be down.
     for (auto now = std::chrono::steady_clock::now(); now < deadline && !stopped.stop_requested();
          now = std::chrono::steady_clock::now()) {
         const LARGE_INTEGER due = fromNow(deadline - now);
-        SetWaitableTimer(timer.handle(), &due, 0, nullptr, nullptr, FALSE);
-        WaitForMultipleObjects(static_cast<DWORD>(either.size()), either.data(), FALSE, INFINITE);
+        SetWaitableTimer(timer.get(), &due, 0, nullptr, nullptr, FALSE);
+        const auto limit = std::chrono::ceil<std::chrono::milliseconds>(deadline - now);
+        WaitForMultipleObjects(static_cast<DWORD>(either.size()), either.data(), FALSE,
+                               static_cast<DWORD>(limit.count()));
     }
 }
 

@@ -53,12 +53,12 @@ std::optional<app::QueueEntry> EntryQueue::waitUntil(std::optional<platform::Mon
 {
     std::unique_lock lock(mutex_);
     const auto ready = [this] { return stopped_ || !entries_.empty(); };
-    wait(Waiting::forEntry);
+    noteWaiting(Waiting::forEntry);
     if (deadline)
         changed_.wait_until(lock, std::chrono::steady_clock::time_point(*deadline), ready);
     else
         changed_.wait(lock, ready);
-    wait(Waiting::no);
+    noteWaiting(Waiting::no);
     if (stopped_ || entries_.empty()) return std::nullopt;
     app::QueueEntry entry = std::move(entries_.front());
     entries_.pop_front();
@@ -73,9 +73,9 @@ bool EntryQueue::answered() const
 platform::Button EntryQueue::waitForAnswer()
 {
     std::unique_lock lock(mutex_);
-    wait(Waiting::forAnswer);
+    noteWaiting(Waiting::forAnswer);
     changed_.wait(lock, [this] { return stopped_ || answered(); });
-    wait(Waiting::no);
+    noteWaiting(Waiting::no);
     if (stopped_) throw base::ProgramEnd{};
     const auto answer = std::find_if(entries_.begin(), entries_.end(), isAnswer);
     const platform::Button button = std::get<app::BoxAnswered>(*answer).button;
@@ -99,7 +99,7 @@ bool EntryQueue::stopped() const
     return stopped_;
 }
 
-void EntryQueue::wait(Waiting what)
+void EntryQueue::noteWaiting(Waiting what)
 {
     waiting_ = what;
     if (what == Waiting::no)

@@ -54,7 +54,7 @@ class EntryQueue final : public app::EntrySource {
     enum class Waiting { no, forEntry, forAnswer };
 
     bool answered() const;
-    void wait(Waiting what);
+    void noteWaiting(Waiting what);
 
     mutable std::mutex mutex_;
     std::condition_variable changed_;

@@ -26,6 +26,11 @@ QString quoted(const QString& path)
     return native.contains(QLatin1Char(' ')) ? QLatin1Char('"') + native + QLatin1Char('"') : native;
 }
 
+bool areAll(const QStringList& databases)
+{
+    return databases.size() == static_cast<qsizetype>(storage::databaseSchemas().size());
+}
+
 /// The nearest folder that is there, to begin choosing at.
 QString nearestFolder(const QString& path)
 {
@@ -104,7 +109,7 @@ std::optional<Obstacle> FirstUse::obstacleOfFiles()
     if (!guarded.isEmpty()) return Obstacle{Trouble::databasesProtected, folder_, guarded};
 
     const QStringList missing = missingDatabases(folder_);
-    const bool firstStart = missing.size() == static_cast<qsizetype>(storage::databaseSchemas().size());
+    const bool firstStart = areAll(missing);
     if (firstStart) makeMissing(missing);
     if (failure_) return std::exchange(failure_, std::nullopt);
     const bool asks = !missing.isEmpty() && !firstStart && !accepted_.contains(Trouble::databasesMissing);
@@ -125,7 +130,9 @@ void FirstUse::carryOut(Choice choice, Trouble trouble)
             return chooseFolder();
         case Choice::useHomeFolder:
             goTo(homeFolder_);
-            return makeFolder(homeFolder_);
+            // Offered once: where it does not help, Enter leads to another folder.
+            homeFolder_.clear();
+            return makeFolder(folder_);
         case Choice::makeFolder:
             return makeFolder(folder_);
         case Choice::makeEmptyDatabases:
@@ -164,9 +171,8 @@ void FirstUse::makeMissing(const QStringList& missing)
 {
     failure_ = makeDatabases(folder_);
     if (failure_) return;
-    const bool all = missing.size() == static_cast<qsizetype>(storage::databaseSchemas().size());
-    made_ = all ? QStringLiteral("First start: empty databases were made in %1")
-                : missing.join(QStringLiteral(", ")) + QStringLiteral(" was made empty in %1");
+    made_ = areAll(missing) ? QStringLiteral("First start: empty databases were made in %1")
+                            : QStringLiteral("Made empty in %1: ") + missing.join(QStringLiteral(", "));
     made_ = made_.arg(QDir::toNativeSeparators(databaseFolderOf(folder_)));
 }
 
@@ -175,7 +181,7 @@ ReadyFolder FirstUse::ready()
     return {QDir::toNativeSeparators(folder_).toStdString(), std::move(lock_), notice()};
 }
 
-/// Nothing is kept of what was chosen: the set-up files in the folder are all that the program remembers.
+/// Nothing is kept of what was chosen: the set-up files in the folder are all that the program remembers of a station.
 std::string FirstUse::notice() const
 {
     const QString told = made_.isEmpty() && chosen_ ? QStringLiteral("The logs are in %1").arg(quoted(folder_)) : made_;

@@ -58,8 +58,7 @@ constexpr Row rows[] = {
      {quit, tryAgain, otherFolder}},
     {Trouble::inUseElsewhere,
      "On another computer Kelvo runs in the folder\n%1\n%2, or did not end there as it should.\n\nStart here only if "
-     "it "
-     "does not run there any more: two programs in one log mix up its codes.",
+     "it does not run there any more: two programs in one log mix up its codes.",
      {quit, takeOver, tryAgain, otherFolder}},
     {Trouble::databasesProtected,
      "In the folder\n%1\nthese files cannot be written:\n%2\n\nNo QSO could be logged. They are write-protected, or "

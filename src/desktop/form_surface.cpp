@@ -21,6 +21,7 @@ QRegion FormSurface::setPicture(std::shared_ptr<const app::Picture> picture)
     if (!sameForm(*before, *picture_)) {
         textOffsets_.clear();
         listTops_.clear();
+        measuredGrids_.clear();
         setSize(size_);
         return QRect(QPoint(0, 0), size_);
     }
@@ -75,7 +76,12 @@ GridLayout FormSurface::grid(const app::ControlPicture& grid) const
 
 GridColumns FormSurface::gridColumns(const app::ControlPicture& grid)
 {
-    return columnsOf(grid, this->grid(grid), scale_, fonts_);
+    auto& kept = measuredGrids_[grid.control];
+    const bool sameColumns = kept && kept->titles == grid.grid->titles && kept->columnWidths == grid.grid->columnWidths;
+    if (!grid.grid->rows->rows.empty() || !sameColumns) kept = grid.grid;
+    app::ControlPicture measured = grid;
+    measured.grid = kept;
+    return columnsOf(measured, this->grid(grid), scale_, fonts_);
 }
 
 ListLayout FormSurface::list(const app::ControlPicture& list) const
@@ -145,7 +151,7 @@ void FormSurface::paintControl(Canvas& canvas, const app::ControlPicture& contro
         case Kind::line:
             return paintLine(canvas, control);
         case Kind::grid:
-            return paintGrid(canvas, control, grid(control));
+            return paintGrid(canvas, control, grid(control), gridColumns(control));
         case Kind::timer:
         case Kind::menuEntry:
         case Kind::data:

@@ -37,6 +37,8 @@ class FormSurface {
 
     TextBoxLayout textBox(const app::ControlPicture& box);
     GridLayout grid(const app::ControlPicture& grid) const;
+    /// The columns of a grid. One that narrows to no row keeps those of the rows before: nothing jumps between two
+    /// QSOs.
     GridColumns gridColumns(const app::ControlPicture& grid);
     ListLayout list(const app::ControlPicture& list) const;
 
@@ -72,6 +74,7 @@ class FormSurface {
     bool caretShown_ = true;
     std::map<const screen::Control*, double> textOffsets_;
     std::map<const screen::Control*, int> listTops_;
+    std::map<const screen::Control*, std::shared_ptr<const app::GridPicture>> measuredGrids_;
 
     struct HeldThumb {
         const screen::Control* control = nullptr;

@@ -16,11 +16,11 @@ constexpr QColor headerColour(226, 230, 236);
 
 class GridPainter {
  public:
-    GridPainter(Canvas& canvas, const app::ControlPicture& grid, const GridLayout& layout)
+    GridPainter(Canvas& canvas, const app::ControlPicture& grid, const GridLayout& layout, const GridColumns& columns)
         : canvas_(canvas),
           grid_(grid),
           layout_(layout),
-          columns_(columnsOf(grid, layout, canvas.scale, canvas.fonts)),
+          columns_(columns),
           metrics_(canvas.fonts.metrics(columns_.fontPixels, grid.bold))
     {
     }
@@ -107,7 +107,7 @@ class GridPainter {
     Canvas& canvas_;
     const app::ControlPicture& grid_;
     const GridLayout& layout_;
-    GridColumns columns_;
+    const GridColumns& columns_;
     const QFontMetricsF& metrics_;
 };
 
@@ -146,9 +146,9 @@ GridColumns columnsOf(const app::ControlPicture& grid, const GridLayout& layout,
     return layOutColumns(grid, scale, fonts, layout.body.width(), wantedFontPixels);
 }
 
-void paintGrid(Canvas& canvas, const app::ControlPicture& grid, const GridLayout& layout)
+void paintGrid(Canvas& canvas, const app::ControlPicture& grid, const GridLayout& layout, const GridColumns& columns)
 {
-    GridPainter(canvas, grid, layout).paint();
+    GridPainter(canvas, grid, layout, columns).paint();
 }
 
 }  // namespace desktop

@@ -22,9 +22,9 @@ struct GridLayout {
 
 GridLayout layOutGrid(const app::ControlPicture& grid, const FormScale& scale);
 
-/// The columns as they are painted.
+/// The columns that what is in view asks for.
 GridColumns columnsOf(const app::ControlPicture& grid, const GridLayout& layout, const FormScale& scale, Fonts& fonts);
 
-void paintGrid(Canvas& canvas, const app::ControlPicture& grid, const GridLayout& layout);
+void paintGrid(Canvas& canvas, const app::ControlPicture& grid, const GridLayout& layout, const GridColumns& columns);
 
 }  // namespace desktop

@@ -26,9 +26,8 @@ constexpr double cellMargin = 3;
 
 /// Shares out `room` pixels. Every column gets the width that the form gives it, and in a larger window as much more as
 /// there is room for, up to what it would have if the form grew with the window. When they nearly fill the room then,
-/// they fill it. One whose texts need more takes it
-/// from free room first, then from columns that have more than they need. When all that is not enough, the font gets
-/// smaller than `wantedFontPixels`.
+/// they fill it. One whose texts need more takes it from free room first, then from columns that have more than they
+/// need. When all that is not enough, the font gets smaller than `wantedFontPixels`.
 GridColumns layOutColumns(const app::ControlPicture& grid, const FormScale& scale, Fonts& fonts, double room,
                           int wantedFontPixels);
 

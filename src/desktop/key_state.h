@@ -13,7 +13,7 @@ class PolledKeys final : public platform::KeyState {
     bool pressed(platform::PolledKey key) override;
     void forget() override;
 
-    /// Window thread: the key went down in the form.
+    /// Window thread: the key went down in a window of the program.
     void wentDown(platform::PolledKey key);
     /// Window thread: the key is up again, wherever that happened.
     void wentUp(platform::PolledKey key);

@@ -41,6 +41,7 @@ bool Keyboard::eventFilter(QObject* watched, QEvent* event)
             return true;
         }
         case QEvent::KeyPress:
+            notePolled(*static_cast<QKeyEvent*>(event));
             // A key that is held answers no message box: neither the one that it raised, nor the next one.
             if (QApplication::activeModalWidget() != nullptr)
                 return translator_.isRepeat(*static_cast<QKeyEvent*>(event));
@@ -64,14 +65,19 @@ bool Keyboard::isForForm(const QKeyEvent& event) const
     return event.key() > 0xFFFF || !menuLetters_.contains(QChar(event.key()));
 }
 
+/// What stops a message stops it in every window of the program, be it that of the help.
+void Keyboard::notePolled(const QKeyEvent& event)
+{
+    const auto polled = polledKeyOf(event);
+    if (polled && !event.isAutoRepeat()) polledKeys_.wentDown(*polled);
+}
+
 void Keyboard::wentDown(const QKeyEvent& event)
 {
     if (isPaste(event)) {
         if (!translator_.isRepeat(event)) post_(app::TextPasted{QGuiApplication::clipboard()->text().toStdString()});
         return;
     }
-    const auto polled = polledKeyOf(event);
-    if (polled && !event.isAutoRepeat()) polledKeys_.wentDown(*polled);
     post(translator_.keyDown(event));
 }
 

@@ -29,7 +29,7 @@ QColor selectionColour();
 QColor selectedTextColour();
 /// Behind the row on which a grid stands.
 QColor currentRowColour();
-/// Lines around and between things.
+/// Lines around things, around frames and what is off, and between the parts of a thing.
 QColor edgeColour();
 QColor frameColour();
 QColor faintLineColour();

@@ -32,9 +32,11 @@ void NoticeLine::setNotice(const QString& notice)
 void NoticeLine::setProgress(const std::optional<ProgressShown>& progress)
 {
     if (progress == progress_) return;
+    const bool begins = !progress_;
     progress_ = progress;
     update();
-    Q_EMIT progressChanged();
+    // Said once: a voice cannot follow the numbers.
+    if (begins && isReadOut()) tellNotice(*this);
 }
 
 QSize NoticeLine::sizeHint() const
@@ -52,7 +54,7 @@ void NoticeLine::paintEvent(QPaintEvent*)
     if (progress_ && progress_->share) room = paintBar(painter, room);
     painter.setPen(QColor(70, 70, 70));
     painter.drawText(room, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
-                     fontMetrics().elidedText(progress_ ? progress_->text : notice_, Qt::ElideRight, room.width()));
+                     fontMetrics().elidedText(shown(), Qt::ElideRight, room.width()));
 }
 
 /// The bar stands in front of the text, so that it stays where it is while the text grows. Returns the room behind it.

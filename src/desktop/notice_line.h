@@ -24,13 +24,11 @@ class NoticeLine final : public QWidget {
 
     /// Shows work in the place of the notice, with a bar where its share is known; nothing gives the notice back.
     void setProgress(const std::optional<ProgressShown>& progress);
+    /// What the line shows now, whole.
+    const QString& shown() const { return progress_ ? progress_->text : notice_; }
     const std::optional<ProgressShown>& progress() const { return progress_; }
 
     QSize sizeHint() const override;
-
- Q_SIGNALS:
-    /// Other work, or none, is shown now.
-    void progressChanged();
 
  protected:
     void paintEvent(QPaintEvent* event) override;

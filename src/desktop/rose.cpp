@@ -94,6 +94,42 @@ void paintMarkOfHeading(Canvas& canvas, QPointF middle, double radius, double he
     painter.restore();
 }
 
+void paintRing(Canvas& canvas, const screen::Rose& rose, QPointF middle)
+{
+    const FormScale& scale = canvas.scale;
+    canvas.painter.setPen(QPen(edgeColour(), 1.5));
+    canvas.painter.setBrush(Qt::NoBrush);
+    canvas.painter.drawEllipse(middle, scale.x(rose.R), scale.y(rose.R));
+    for (int mark = 1; mark <= marks; ++mark) {
+        const double angle = mark * std::numbers::pi / 6;
+        paintDisc(canvas, scale.point(rose.X0 + rose.R * std::cos(angle), rose.Y0 + rose.R * std::sin(angle)),
+                  markTwips, Qt::yellow);
+    }
+}
+
+/// The letters with the red discs that they belong to.
+void paintLetters(Canvas& canvas, const screen::Rose& rose, QPointF middle)
+{
+    struct Axis {
+        double x;
+        double y;
+        const char* letter;
+    };
+    constexpr std::array axes = {Axis{0, -1, "N"}, Axis{0, 1, "S"}, Axis{-1, 0, "W"}, Axis{1, 0, "E"}};
+
+    const FormScale& scale = canvas.scale;
+    const QPointF way = wayToLetters(rose, scale);
+    const double box = 2.0 * letterPixels(scale);
+    canvas.painter.setFont(canvas.fonts.font(letterPixels(scale), true));
+    for (const Axis& axis : axes) {
+        paintDisc(canvas, scale.point(rose.X0 + axis.x * rose.R, rose.Y0 + axis.y * rose.R), discTwips, Qt::red);
+        const QPointF at = middle + QPointF(axis.x * way.x(), axis.y * way.y());
+        canvas.painter.setPen(Qt::black);
+        canvas.painter.drawText(QRectF(at.x() - box / 2, at.y() - box / 2, box, box), Qt::AlignCenter,
+                                QLatin1String(axis.letter));
+    }
+}
+
 }  // namespace
 
 bool needleIsSeen(const app::Picture& picture)
@@ -124,13 +160,6 @@ QRect placeOfRose(const screen::Rose& rose, double dial, const FormScale& scale)
 
 void paintRose(Canvas& canvas, const app::Picture& picture)
 {
-    struct Axis {
-        double x;
-        double y;
-        const char* letter;
-    };
-    constexpr std::array axes = {Axis{0, -1, "N"}, Axis{0, 1, "S"}, Axis{-1, 0, "W"}, Axis{1, 0, "E"}};
-
     QPainter& painter = canvas.painter;
     const FormScale& scale = canvas.scale;
     const screen::Rose& rose = picture.rose;
@@ -140,24 +169,8 @@ void paintRose(Canvas& canvas, const app::Picture& picture)
     const QPointF middle = scale.point(rose.X0, rose.Y0);
     if (dial > 0) paintDial(canvas, middle, dial);
     if (dial > 0 && needleIsSeen(picture)) paintMarkOfHeading(canvas, middle, dial, rose.heading);
-    painter.setPen(QPen(edgeColour(), 1.5));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawEllipse(middle, scale.x(rose.R), scale.y(rose.R));
-    for (int mark = 1; mark <= marks; ++mark) {
-        const double angle = mark * std::numbers::pi / 6;
-        paintDisc(canvas, scale.point(rose.X0 + rose.R * std::cos(angle), rose.Y0 + rose.R * std::sin(angle)),
-                  markTwips, Qt::yellow);
-    }
-    painter.setFont(canvas.fonts.font(letterPixels(scale), true));
-    for (const Axis& axis : axes) {
-        paintDisc(canvas, scale.point(rose.X0 + axis.x * rose.R, rose.Y0 + axis.y * rose.R), discTwips, Qt::red);
-        const QPointF way = wayToLetters(rose, scale);
-        const QPointF at = middle + QPointF(axis.x * way.x(), axis.y * way.y());
-        painter.setPen(Qt::black);
-        const double box = 2.0 * letterPixels(scale);
-        painter.drawText(QRectF(at.x() - box / 2, at.y() - box / 2, box, box), Qt::AlignCenter,
-                         QLatin1String(axis.letter));
-    }
+    paintRing(canvas, rose, middle);
+    paintLetters(canvas, rose, middle);
     paintDisc(canvas, middle, discTwips, QColor(0, 255, 0));
     painter.restore();
 }

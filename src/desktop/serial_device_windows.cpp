@@ -1,8 +1,11 @@
 #include <windows.h>
 
+#include <utility>
+
 #include "base/number.h"
 #include "base/runtime_error.h"
 #include "desktop/serial_device.h"
+#include "desktop/windows_handle.h"
 
 namespace desktop {
 
@@ -10,11 +13,7 @@ namespace {
 
 class CommDevice final : public SerialDevice {
  public:
-    explicit CommDevice(HANDLE handle) : handle_(handle) {}
-    /// The driver drops both lines with the handle, and the system takes the handle with the process.
-    ~CommDevice() override { CloseHandle(handle_); }
-    CommDevice(const CommDevice&) = delete;
-    CommDevice& operator=(const CommDevice&) = delete;
+    explicit CommDevice(WindowsHandle handle) : handle_(std::move(handle)) {}
 
     /// Gives the lines to this program alone: no handshake switches them, and they are down. False when there is no
     /// serial hardware behind the name.
@@ -22,7 +21,12 @@ class CommDevice final : public SerialDevice {
     {
         DCB settings{};
         settings.DCBlength = sizeof(settings);
-        if (GetCommState(handle_, &settings) == 0) return false;
+        if (GetCommState(handle_.get(), &settings) == 0) return false;
+        // What the program before left of these may be something that the driver refuses.
+        settings.fBinary = TRUE;
+        settings.fErrorChar = FALSE;
+        settings.fNull = FALSE;
+        settings.fAbortOnError = FALSE;
         settings.BaudRate = CBR_19200;
         settings.ByteSize = 8;
         settings.Parity = NOPARITY;
@@ -34,18 +38,19 @@ class CommDevice final : public SerialDevice {
         settings.fInX = FALSE;
         settings.fDtrControl = DTR_CONTROL_DISABLE;
         settings.fRtsControl = RTS_CONTROL_DISABLE;
-        return SetCommState(handle_, &settings) != 0 && dropLines(*this);
+        return SetCommState(handle_.get(), &settings) != 0 && dropLines(*this);
     }
 
     bool switchLine(SerialLine line, bool on) override
     {
         const DWORD key = on ? SETDTR : CLRDTR;
         const DWORD transmitter = on ? SETRTS : CLRRTS;
-        return EscapeCommFunction(handle_, line == SerialLine::key ? key : transmitter) != 0;
+        return EscapeCommFunction(handle_.get(), line == SerialLine::key ? key : transmitter) != 0;
     }
 
  private:
-    HANDLE handle_;
+    /// The driver drops both lines with the handle, and the system takes the handle with the process.
+    WindowsHandle handle_;
 };
 
 /// What the system said when it refused to open the port.
@@ -74,7 +79,7 @@ std::unique_ptr<SerialDevice> openSystemPort(int number, const std::string& /*pr
     const HANDLE handle =
         CreateFileW(name.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     if (handle == INVALID_HANDLE_VALUE) throw base::RuntimeError(base::noSuchPort, sentence(number, GetLastError()));
-    auto device = std::make_unique<CommDevice>(handle);
+    auto device = std::make_unique<CommDevice>(WindowsHandle(handle));
     if (device->takeLines()) return device;
     throw base::RuntimeError(base::noSuchPort, "Serial port " + base::toText(number) + ", COM" + base::toText(number) +
                                                    ", has no hardware behind it");

@@ -63,6 +63,8 @@ void SerialLines::forgetDevice() noexcept
 {
     inUse_ = false;
     priority_.reset();
+    // One line may answer although the other did not.
+    if (device_) dropLines(*device_);
     device_.reset();
 }
 

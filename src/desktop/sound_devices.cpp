@@ -24,6 +24,12 @@ constexpr auto patience = 1s;
 /// The devices as they are counted on a thread of its own.
 class SoundDevices::Count {
  public:
+    Count() = default;
+    /// The program does not end under a library at work.
+    ~Count() { job_.stop(patience); }
+    Count(const Count&) = delete;
+    Count& operator=(const Count&) = delete;
+
     /// Their number, 0 when nothing is heard of them in time.
     int wait(const std::stop_token& programStops)
     {

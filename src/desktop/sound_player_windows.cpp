@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "desktop/sound_player.h"
+#include "desktop/windows_handle.h"
 
 namespace desktop {
 
@@ -14,20 +15,15 @@ namespace {
 /// The system sets it when a device is open, has played its samples, or is closed.
 class DeviceEvent {
  public:
-    DeviceEvent() : handle_(CreateEventW(nullptr, FALSE, FALSE, nullptr)) {}
-    ~DeviceEvent() { CloseHandle(handle_); }
-    DeviceEvent(const DeviceEvent&) = delete;
-    DeviceEvent& operator=(const DeviceEvent&) = delete;
-
-    HANDLE handle() const { return handle_; }
+    HANDLE handle() const { return handle_.get(); }
     void waitShortly() const
     {
         constexpr DWORD turnMilliseconds = 5;
-        WaitForSingleObject(handle_, turnMilliseconds);
+        WaitForSingleObject(handle(), turnMilliseconds);
     }
 
  private:
-    HANDLE handle_;
+    WindowsHandle handle_{CreateEventW(nullptr, FALSE, FALSE, nullptr)};
 };
 
 WAVEFORMATEX formatOf(const platform::SoundFile& sound)

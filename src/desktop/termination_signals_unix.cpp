@@ -3,6 +3,7 @@
 
 #include <QSocketNotifier>
 #include <array>
+#include <cerrno>
 #include <csignal>
 
 #include "desktop/termination_signals.h"
@@ -19,8 +20,10 @@ std::array<int, 2> ends = {-1, -1};
 extern "C" void passOn(int)
 {
     const char byte = 1;
+    const int interrupted = errno;
     // A full pipe means that the request is on its way already.
     [[maybe_unused]] const auto written = ::write(ends[1], &byte, 1);
+    errno = interrupted;
 }
 
 void setHandlers(void (*handler)(int))

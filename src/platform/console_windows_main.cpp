@@ -10,7 +10,7 @@
 extern "C" int wmain(int count, wchar_t** words)
 {
     std::vector<std::string> texts;
-    std::transform(words + 1, words + count, std::back_inserter(texts), [](const wchar_t* word) {
+    std::transform(words + std::min(count, 1), words + count, std::back_inserter(texts), [](const wchar_t* word) {
         const std::u8string text = std::filesystem::path(word).u8string();
         return std::string(text.begin(), text.end());
     });

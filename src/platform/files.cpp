@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <system_error>
 #include <utility>
 
@@ -21,12 +22,22 @@ fs::path nativePath(std::string_view designPath)
     return pathFrom(text);
 }
 
+/// Nothing for a name that is no text: one of the systems allows such.
+std::optional<std::string> nameOf(const fs::directory_entry& entry)
+{
+    try {
+        return pathText(entry.path().filename());
+    } catch (const fs::filesystem_error&) {
+        return std::nullopt;
+    }
+}
+
 /// The entry of `folder` whose name is `name` but for case; `name` itself when there is none.
 fs::path entryIgnoringCase(const fs::path& folder, const fs::path& name)
 {
     std::error_code ignored;
     for (fs::directory_iterator entry(folder, ignored), end; !ignored && entry != end; entry.increment(ignored))
-        if (base::equalIgnoringCase(pathText(entry->path().filename()), pathText(name)))
+        if (const auto text = nameOf(*entry); text && base::equalIgnoringCase(*text, pathText(name)))
             return entry->path().filename();
     return name;
 }
@@ -108,7 +119,7 @@ FolderContents readFolder(std::string_view designPath)
     for (const fs::directory_iterator end; !failed && entry != end; entry.increment(failed)) {
         std::error_code unknown;
         auto& names = entry->is_directory(unknown) ? contents.folders : contents.files;
-        names.push_back(pathText(entry->path().filename()));
+        if (auto text = nameOf(*entry)) names.push_back(std::move(*text));
     }
     if (failed) throw base::RuntimeError(base::existsOrNoAccess, "The folder " + name + " cannot be read");
     sortIgnoringCase(contents.folders);

@@ -68,7 +68,7 @@ struct Control {
     bool Visible = true;
     bool Enabled = true;
     bool TabStop = false;
-    char32_t accessKey = 0;  ///< capital or digit that clicks it with Alt where its caption marks none, 0 for none
+    char32_t accessKey = 0;  ///< capital or digit that picks it with Alt where its caption marks none, 0 for none
     Colour BackColor = buttonFace;
     Colour ForeColor = black;
     std::string ToolTipText;

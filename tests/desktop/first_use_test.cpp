@@ -193,7 +193,7 @@ TEST_F(FirstUseTest, OneMissingDatabaseIsAskedAbout)
     auto made = prepare(named(station), {"Make it empty"});
     ASSERT_TRUE(made.has_value());
     EXPECT_TRUE(hasDatabases(station));
-    EXPECT_EQ(made->notice, "LogKelvo.mdb was made empty in " + station.toStdString());
+    EXPECT_EQ(made->notice, "Made empty in " + station.toStdString() + ": LogKelvo.mdb");
     made.reset();
 
     without();

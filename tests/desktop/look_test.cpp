@@ -120,6 +120,31 @@ TEST_F(LookTest, TheFocusIsSeenOnEveryGround)
         }
 }
 
+TEST_F(LookTest, AnEmptyGridKeepsTheColumnsOfTheRowsBefore)
+{
+    const auto show = [this](std::vector<std::string> row, double width) {
+        app::ControlPicture& control = page_.picture().controls.front();
+        auto rows = std::make_shared<app::GridRows>();
+        if (!row.empty()) rows->rows.push_back({1, std::move(row)});
+        auto grid = std::make_shared<app::GridPicture>();
+        grid->titles = {"Call", "Pct"};
+        grid->columnWidths = {width, width};
+        grid->rows = rows;
+        control.grid = grid;
+        surface_.setPicture(page_.take());
+        return surface_.gridColumns(surface_.picture().controls.front()).columns;
+    };
+    page_.addGrid({600, 600, 6000, 3000}, 0, false, false);
+    const auto empty = show({}, 900);
+    const auto filled = show({"YO2LONG/PORTABLE/CALL", "404"}, 900);
+    ASSERT_NE(filled[0].width, empty[0].width);
+    ASSERT_TRUE(filled[1].figures);
+    const auto narrowed = show({}, 900);
+    EXPECT_EQ(narrowed[0].width, filled[0].width);
+    EXPECT_TRUE(narrowed[1].figures);
+    EXPECT_NE(show({}, 1200)[0].width, filled[0].width) << "other columns";
+}
+
 TEST_F(LookTest, EveryWordStandsAboveItsField)
 {
     const screen::Rectangle fields[] = {{600, 900, 840, 600}, {1500, 900, 1020, 600}, {2580, 900, 1440, 600}};

@@ -76,6 +76,9 @@ TEST(CommandLineTest, AFolderWithoutANameIsToldOf)
 {
     EXPECT_FALSE(desktop::readCommandLine({"kelvo", "--folder"}, "/").complaint.isEmpty());
     EXPECT_FALSE(desktop::readCommandLine({"kelvo", "--folder", ""}, "/").complaint.isEmpty());
+    EXPECT_EQ(desktop::readCommandLine({"kelvo", "--foldr", "/tmp"}, "/").complaint, "--foldr is no option of Kelvo");
+    EXPECT_EQ(desktop::readCommandLine({"kelvo", "--folder=/tmp"}, "/").complaint,
+              "--folder=/tmp is no option of Kelvo");
 }
 
 TEST(CommandLineTest, AFolderThatIsNotThereIsTakenAsItIs)

@@ -6,8 +6,9 @@
 //
 //     NANOSECONDS open | close | DTR on | DTR off | RTS on | RTS off      (of the monotonic clock)
 //
-// The file that KELVO_LINES_TROUBLE names, when it is there, holds what is wrong: "unplugged", "no hardware", "busy" or
-// "denied". With KELVO_LINES_OPENED_ELSEWHERE the process gets its pseudo-terminals from another one, open already.
+// The file that KELVO_LINES_TROUBLE names, when it is there, holds what is wrong: "unplugged", "no hardware", "busy",
+// "denied" or "deaf key", whose DTR does not answer while RTS does. With KELVO_LINES_OPENED_ELSEWHERE the process gets
+// its pseudo-terminals from another one, open already.
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/ioctl.h>
@@ -146,6 +147,7 @@ int switchLines(unsigned long request, void* argument)
     if (trouble("unplugged")) return fail(EIO);
     if (trouble("no hardware")) return fail(EIO);
     int& bits = *static_cast<int*>(argument);
+    if (request != TIOCMGET && (bits & TIOCM_DTR) != 0 && trouble("deaf key")) return fail(EIO);
     switch (request) {
         case TIOCMGET:
             bits = lines;

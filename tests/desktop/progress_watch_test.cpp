@@ -52,21 +52,25 @@ TEST(ProgressToShowTest, WorkWithoutAWordIsShownAsSuchAndLater)
     EXPECT_EQ(shown(1h, WorkSeen{"", 0, 0}), "nothing") << "what has a sign of its own";
 }
 
-/// Remembers what the line showed.
-class Shown {
+/// Remembers what the line showed each time it was painted.
+class Shown final : public QObject {
  public:
-    explicit Shown(desktop::NoticeLine& line)
+    explicit Shown(desktop::NoticeLine& line) : line_(line) { line.installEventFilter(this); }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
     {
-        QObject::connect(&line, &desktop::NoticeLine::progressChanged, &context_, [this, &line] {
-            if (line.progress()) all.push_back(*line.progress());
-            ends = !line.progress().has_value();
-        });
+        if (event->type() != QEvent::Paint) return false;
+        const auto& progress = line_.progress();
+        if (progress && (all.empty() || all.back() != *progress)) all.push_back(*progress);
+        ends = !progress;
+        return false;
     }
+
     std::vector<desktop::ProgressShown> all;
     bool ends = true;  ///< nothing is shown now
 
  private:
-    QObject context_;
+    desktop::NoticeLine& line_;
 };
 
 /// A log of 4,000 QSOs on the review form, written to a pipe that is read as slowly as a bad disk takes it.

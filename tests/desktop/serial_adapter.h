@@ -53,7 +53,7 @@ class SerialAdapter {
         std::filesystem::create_symlink(device(), folder / ("COM" + std::to_string(number)));
     }
 
-    /// "unplugged", "no hardware", "busy" or "denied", until it is put right.
+    /// "unplugged", "no hardware", "busy", "denied" or "deaf key", until it is put right.
     static void trouble(const std::string& kind) { writeFile(troubleFile(), kind); }
     static void putRight() { std::filesystem::remove(troubleFile()); }
 

@@ -228,6 +228,16 @@ TEST_F(SerialPortTest, AnAdapterPulledInTheMiddleOfAMessage)
     EXPECT_FALSE(serial.isOpen());
 }
 
+TEST_F(SerialPortTest, ALineThatDoesNotAnswerLeavesTheOtherOneDown)
+{
+    serial.open(port);
+    serial.setRts(true);
+    adapter.happened();
+    adapter.trouble("deaf key");
+    EXPECT_EQ(errorOf([&] { serial.setDtr(true); }), existsOrNoAccess);
+    EXPECT_THAT(adapter.happened(), ElementsAre("RTS off", "close"));
+}
+
 TEST_F(SerialPortTest, AnAdapterPulledBeforeTheMessageEnds)
 {
     serial.open(port);

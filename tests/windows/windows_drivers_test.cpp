@@ -80,16 +80,36 @@ TEST(SerialDeviceTest, APortThatIsNotThereIsToldSo)
     EXPECT_EQ(refusalOf(-1).number, base::noSuchPort);
 }
 
-/// A drive with the letter A, as long as it lives.
-class DiskDrive {
+/// A drive with this letter, as long as it lives.
+class DriveLetter {
  public:
-    explicit DiskDrive(const fs::path& folder)
+    DriveLetter(const wchar_t* letter, const fs::path& folder) : letter_(letter)
     {
-        EXPECT_NE(DefineDosDeviceW(0, L"A:", fs::path(folder).make_preferred().c_str()), 0);
+        EXPECT_NE(DefineDosDeviceW(0, letter_, fs::path(folder).make_preferred().c_str()), 0);
     }
-    ~DiskDrive() { DefineDosDeviceW(DDD_REMOVE_DEFINITION, L"A:", nullptr); }
-    DiskDrive(const DiskDrive&) = delete;
-    DiskDrive& operator=(const DiskDrive&) = delete;
+    ~DriveLetter() { DefineDosDeviceW(DDD_REMOVE_DEFINITION, letter_, nullptr); }
+    DriveLetter(const DriveLetter&) = delete;
+    DriveLetter& operator=(const DriveLetter&) = delete;
+
+ private:
+    const wchar_t* letter_;
+};
+
+/// What Wine takes a drive for, as long as it lives. Windows itself does not look there.
+class TypeOfDrive {
+ public:
+    TypeOfDrive(const wchar_t* drive, const wchar_t* type) : drive_(drive)
+    {
+        const auto bytes = static_cast<DWORD>((std::char_traits<wchar_t>::length(type) + 1) * sizeof(wchar_t));
+        RegSetKeyValueW(HKEY_LOCAL_MACHINE, key, drive_, REG_SZ, type, bytes);
+    }
+    ~TypeOfDrive() { RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, key, drive_); }
+    TypeOfDrive(const TypeOfDrive&) = delete;
+    TypeOfDrive& operator=(const TypeOfDrive&) = delete;
+
+ private:
+    static constexpr const wchar_t* key = L"Software\\Wine\\Drives";
+    const wchar_t* drive_;
 };
 
 TEST(MountedVolumesTest, TheDriveOfTheProgramComesFirstAndOnce)
@@ -112,7 +132,19 @@ TEST(MountedVolumesTest, DriveAIsTheDriveOfThatLetter)
     const test::TemporaryFolder folder;
     const desktop::MountedVolumes volumes("C:\\Kelvo");
     EXPECT_EQ(volumes.driveA(), std::nullopt);
-    const DiskDrive drive(folder.path());
+    const DriveLetter drive(L"A:", folder.path());
+    EXPECT_EQ(volumes.driveA(), "A:");
+}
+
+TEST(MountedVolumesTest, AStickIsDriveAUnderAnyLetter)
+{
+    const test::TemporaryFolder folder;
+    const desktop::MountedVolumes volumes("C:\\Kelvo");
+    const DriveLetter stick(L"E:", folder.path());
+    EXPECT_EQ(volumes.driveA(), std::nullopt) << "a disk";
+    const TypeOfDrive removable(L"e:", L"floppy");
+    EXPECT_EQ(volumes.driveA(), "E:");
+    const DriveLetter first(L"A:", folder.path());
     EXPECT_EQ(volumes.driveA(), "A:");
 }
 
