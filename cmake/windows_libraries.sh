@@ -50,6 +50,7 @@ build_sqlite() {
 
 # The toolkit, of which Windows needs the windows, the printer and the tests. Its own copies of the small libraries
 # for pictures and fonts go in. The header that the support of drawing tablets needs is not in Debian's source package.
+# Fonts by DirectWrite need Direct2D, whose plugin the compiler cannot build.
 build_qt() {
     [ ! -e "$libraries/qt/kelvo-built" ] || return 0
     echo "Building Qt for Windows: this takes an hour or more"
@@ -66,7 +67,7 @@ build_qt() {
             -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF -DQT_BUILD_TOOLS_BY_DEFAULT=OFF \
             -DFEATURE_tabletevent=OFF -DFEATURE_network=OFF -DFEATURE_sql=OFF -DFEATURE_dbus=OFF \
             -DFEATURE_xml=OFF -DFEATURE_concurrent=OFF -DINPUT_opengl=no -DFEATURE_vulkan=OFF \
-            -DFEATURE_direct2d=OFF "${own_copies[@]}"
+            -DFEATURE_direct2d=OFF -DFEATURE_directwrite=OFF "${own_copies[@]}"
         nice cmake --build "$work/qt" -- -j "$jobs"
         cmake --install "$work/qt"
     ) > "$work/qt.log" 2>&1 || { tail -n 30 "$work/qt.log" >&2; return 1; }

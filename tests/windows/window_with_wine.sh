@@ -1,0 +1,122 @@
+#!/usr/bin/env bash
+# The Windows program in its window under Wine, led by keys alone through an evening of an operator: QSOs, the end, a
+# new start, one more QSO, the EDI file. The Linux program is led the same way; rows and file must be the same.
+#
+#   window_with_wine.sh LINUX_PROGRAMS WINDOWS_PROGRAMS [PICTURES]    PICTURES: a folder for what the screen showed
+set -euo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+linux=$(realpath "$1") windows=$(realpath "$2") pictures=${3:+$(mkdir -p "$3" && realpath "$3")}
+source "$here/wine.sh"
+source "$here/../desktop/real_window.sh"
+source "$here/../desktop/operator.sh"
+
+# The programs of each system under the same names. Scripts and empty databases are those of Linux for both.
+mkdir "$work/linux" "$work/windows"
+ln -s "$linux"/kelvo* "$work/linux/"
+ln -s "$linux/kelvo-script" "$linux/kelvo-newdb" "$work/windows/"
+cat >"$work/windows/kelvo" <<END
+#!/bin/sh
+shift
+exec wine "$windows/kelvo.exe" --folder "Z:\$1"
+END
+chmod +x "$work/windows/kelvo"
+
+# look NAME: keeps a picture of the screen, where they are wanted.
+look() {
+    [ -z "$pictures" ] || import -silent -window root "$pictures/$system-$1.png"
+}
+
+# Time and date are those of the run.
+rows() {
+    sqlite3 -cmd '.timeout 2000' "$station/LogKelvo.mdb" \
+        'SELECT Callsign, Sent, Rcvd, Mode, Freq, QRALoc, Pct FROM Uus144b ORDER BY ID' 2>/dev/null
+}
+row_count_is() { [ "$(rows | wc -l)" -eq "$1" ]; }
+
+begin() {
+    played=()
+    start_program
+    pick_contest OpBCampNatUUS
+}
+
+# log_qso CALL CODE LOCATOR ROWS: and what stands in the log behind it.
+log_qso() {
+    text "$1"
+    keys Tab
+    text "$2$3"
+    keys Enter
+    wait_for "row $4" row_count_is "$4"
+}
+
+end_program() {
+    xdotool key alt+x
+    keyboard_to_box
+    look question
+    xdotool key y
+    wait_for "the program to end" gone
+    wait "$program" || fail "the program ended with status $?"
+    program=
+}
+
+work_stage_b() {
+    begin
+    start_entry
+    keys Alt+4 Alt+B Alt+S
+}
+
+edi_file_is_there() { compgen -G "$station/L[oO][gG]/*.edi" >/dev/null; }
+write_edi_file() {
+    menu mnuFormEDI alt+m h Down Return
+    keys Alt+4
+    go_to TxtPSect
+    keys Ctrl+a
+    text Single
+    look edi
+    choose CmdNextPage
+    choose CmdGata
+    answer y Return
+    wait_for "the EDI file" edi_file_is_there
+}
+
+lead() {
+    local first
+    system=$1
+    programs=$work/$system
+    station=$work/$system-station
+    mkdir "$station"
+    "$linux/kelvo-script" --folder "$station" "$here/../../docs/stations/national.kelvo" >/dev/null
+    first=$(rows | wc -l)
+
+    step="working stations on $system"
+    begin
+    look setup
+    start_entry
+    keys Alt+4 Alt+B Alt+S
+    text yo7zzz
+    look call
+    keys Ctrl+a
+    log_qso yo7zzz 021 kn15ab $((first + 1))
+    log_qso yo9yyy 022 kn34bc $((first + 2))
+    look entry
+    end_program
+
+    step="going on after a new start on $system"
+    work_stage_b
+    log_qso yo8xxx 023 kn37cd $((first + 3))
+    end_program
+
+    step="writing the EDI file on $system"
+    begin
+    start_review
+    write_edi_file
+    look review
+    end_program
+    rows >"$work/$system.rows"
+}
+
+start_server
+lead linux
+lead windows
+diff "$work/linux.rows" "$work/windows.rows"
+diff -r "$work"/linux-station/L[oO][gG] "$work"/windows-station/L[oO][gG]
+echo "the same rows ($(wc -l <"$work/windows.rows")) and files on both systems"
