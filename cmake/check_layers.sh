@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Uses go down only: each folder includes no folder above it. Qt stays in desktop/, SQLite in storage/, and no header of
-# an operating system stands outside desktop/.
+# an operating system stands outside desktop/, but for the few calls that make a file safe on the disk.
 set -euo pipefail
 cd "$(dirname "$0")/../src"
 
@@ -27,7 +27,7 @@ forbidden() {
     local what=$1 pattern=$2
     shift 2
     local wrong
-    wrong=$(grep -rnE "$pattern" "$@" || true)
+    wrong=$(grep -rnE --exclude='file_calls_*.cpp' "$pattern" "$@" || true)
     [ -z "$wrong" ] || { echo "$what:"; echo "$wrong"; failed=1; }
 }
 

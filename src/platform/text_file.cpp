@@ -8,6 +8,7 @@
 #include "base/number.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
+#include "platform/file_beside.h"
 #include "platform/files.h"
 
 namespace platform {
@@ -19,13 +20,6 @@ namespace {
 std::string nameOf(const fs::path& path)
 {
     return pathText(path.filename());
-}
-
-bool diskIsFull(const fs::path& folder)
-{
-    std::error_code unknown;
-    const fs::space_info space = fs::space(folder, unknown);
-    return !unknown && space.available == 0;
 }
 
 /// Putting another file in its place would get round the protection.
@@ -66,26 +60,12 @@ std::string readTextFile(std::string_view designPath)
 void writeTextFile(std::string_view designPath, std::string_view text)
 {
     const fs::path path = resolve(designPath);
-    std::error_code failed;
-    if (!fs::is_directory(path.parent_path(), failed))
-        throw base::RuntimeError(base::noSuchFolder, "The folder of " + nameOf(path) + " is not there");
     if (isWriteProtected(path))
         throw base::RuntimeError(base::existsOrNoAccess, nameOf(path) + " is write-protected: it stays as it was");
-    fs::path beside = path;
-    beside += ".new";
-    {
-        std::ofstream file(beside, std::ios::binary | std::ios::trunc);
-        file << base::toWindows1250(text);
-        file.close();
-        if (!file) failed = std::make_error_code(std::errc::io_error);
-    }
-    if (!failed) fs::rename(beside, path, failed);
-    if (!failed) return;
-    const bool full = diskIsFull(path.parent_path());
-    std::error_code ignored;
-    fs::remove(beside, ignored);
-    if (full) throw base::RuntimeError(base::diskFull, "The disk is full: " + nameOf(path) + " was not written");
-    throw base::RuntimeError(base::existsOrNoAccess, nameOf(path) + " cannot be written");
+    FileBeside file;
+    file.begin(path);
+    file.write(base::toWindows1250(text));
+    file.putInPlace();
 }
 
 std::string FieldReader::text()

@@ -273,6 +273,7 @@ void Message6()
 void Message1()
 {
     const int format = FrmAnzeigen.OutFormat;
+    Modul1.logUnread = 0;
     if (FrmAnzeigen.OutMode == toFolder) ModifIndic();
     if (FrmAnzeigen.OutMode == toFolder && format == asText) {
         deleteOldFiles();

@@ -273,8 +273,16 @@ void openSummary()
     }
 }
 
+/// A summary with the wrong figures would look right.
+void requireFigures()
+{
+    if (Modul1.logUnread != 100) return;
+    throw base::RuntimeError(base::existsOrNoAccess, "The log could not be read: the summary was not written");
+}
+
 void writeSummary()
 {
+    requireFigures();
     openSummary();
     printTitle();
     printStation();
@@ -290,7 +298,10 @@ void writeSummary()
 
 void PSumm()
 {
-    const int error = base::quietly<base::noSuchFolder, base::summaryNotOpened>(writeSummary);
+    // There need not be a drive. The folder of the logs was there a moment ago.
+    const bool toDriveA = FrmAnzeigen.OutMode == toDrive;
+    const int error = toDriveA ? base::quietly<base::noSuchFolder, base::summaryNotOpened>(writeSummary)
+                               : base::quietly<base::summaryNotOpened>(writeSummary);
     if (error != base::summaryNotOpened) return;
     runstate::tell("NU GASESC FISIERUL ");
     Modul1.FileNo.close();

@@ -1,5 +1,7 @@
 #include "review/sums.h"
 
+#include <utility>
+
 #include "band/maraton_totals.h"
 #include "base/number.h"
 #include "base/runtime_error.h"
@@ -18,11 +20,19 @@ constexpr int columnPoints = 9;
 /// Of the points of a QSO as many characters count as the record of a row has room for.
 constexpr std::size_t pointsCharacters = 6;
 
+/// A step of reading the log. An empty table is no failure.
+template <typename Step>
+void read(base::ResumeNext& go, Step&& step)
+{
+    const int error = go(std::forward<Step>(step));
+    if (error != 0 && error != base::noCurrentRecord) Modul1.logUnread = 100;
+}
+
 /// Adds the points of the current row, cut to the width that the record gives them, and goes to the next row.
 void addRow(base::ResumeNext& go, storage::RecordSet& rows, std::int32_t& total)
 {
-    go([&] { FrmAnzeigen.LogRec.Pct = rows.Field(columnPoints); });
-    go([&] { rows.MoveNext(); });
+    read(go, [&] { FrmAnzeigen.LogRec.Pct = rows.Field(columnPoints); });
+    read(go, [&] { rows.MoveNext(); });
     go([&] { total = base::roundToInt32(total + base::numericValue(FrmAnzeigen.LogRec.Pct)); });
 }
 
@@ -35,17 +45,17 @@ void sum(const LogView& log)
     Modul1.*table.Loc = 0;
     Modul1.GridRebuild = 1000;
     storage::Database database;
-    go([&] { database = storage::OpenDatabase(storage::logDatabasePath()); });
+    read(go, [&] { database = storage::OpenDatabase(storage::logDatabasePath()); });
 
     screen::DataControl& data = FrmAnzeigen.*log.data;
     storage::RecordSet& rows = data.Recordset;
     data.RecordSource = storage::readTable(table.name);
-    go([&] { data.Refresh(); });
-    go([&] { rows.MoveLast(); });
-    go([&] { rows.MoveFirst(); });
+    read(go, [&] { data.Refresh(); });
+    read(go, [&] { rows.MoveLast(); });
+    read(go, [&] { rows.MoveFirst(); });
     go(table.layOut);
     long count = 0;
-    go([&] { count = rows.RecordCount(); });
+    read(go, [&] { count = rows.RecordCount(); });
     platform::LongWork work("Recount", count);
     for (long row = 0; row < count; ++row) {
         work.done(row);
@@ -129,6 +139,7 @@ void SummeYO2()
 {
     const int error = base::quietly<base::noCurrentRecord, base::rowGone>(
         [] { band::recountMaratonLog(FrmAnzeigen.UusLGYO2, pointsCharacters); });
+    if (error != 0 && error != base::noCurrentRecord) Modul1.logUnread = 100;
     if (error != base::rowGone) return;
     runstate::tell("AFTER DELETE LOG, PLEASE RESTART PROGRAM !", platform::iconExclamation);
     Modul1.DbQra.Close();

@@ -161,6 +161,7 @@ class RowWriter {
         const int error = go_(std::forward<Step>(step));
         if (error == 0 || error == base::noCurrentRecord) return true;
         Modul1.FileNo.abandon();
+        Modul1.logUnread = 100;
         return false;
     }
 

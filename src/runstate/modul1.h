@@ -121,6 +121,7 @@ struct Modul1State {
     std::int32_t PctYO432 = 0;
     std::int32_t PctYO1296 = 0;
     std::uint16_t maratonLogEmptied = 0;  ///< 100: it was emptied in this run, and not counted since
+    std::uint16_t logUnread = 0;          ///< 100: a log could not be read to its end, its figures mean nothing
     std::string BandYO;
     std::string Start144a;  ///< last code in the stage table of the band
     std::string Start144b;

@@ -160,6 +160,7 @@ constexpr std::array variables = {
     Variable{"PctYO432", ofRun<&Run::PctYO432>},
     Variable{"PctYO1296", ofRun<&Run::PctYO1296>},
     Variable{"maratonLogEmptied", ofRun<&Run::maratonLogEmptied>},
+    Variable{"logUnread", ofRun<&Run::logUnread>},
     Variable{"BandYO", ofRun<&Run::BandYO>},
     Variable{"Start144a", ofRun<&Run::Start144a>},
     Variable{"Start144b", ofRun<&Run::Start144b>},

@@ -3,6 +3,7 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <array>
 #include <map>
 #include <new>
 #include <stdexcept>
@@ -134,6 +135,7 @@ void Connection::prepareFile()
 
 void Connection::execute(const std::string& text)
 {
+    if (doubt_ && doubt_->statement == text && isInAllTheSame()) return;
     PreparedStatement statement(*this, text, Access::writing);
     if (statement.columnCount() != 0)
         throw RuntimeError(base::invalidArgument, "This statement asks for rows: " + text);
@@ -143,9 +145,65 @@ void Connection::execute(const std::string& text)
 std::int64_t Connection::run(PreparedStatement& statement)
 {
     ++writes_;
-    while (statement.step()) {
+    leaveDoubt();
+    const std::optional<std::uint32_t> before = commitCount();
+    try {
+        while (statement.step()) {
+        }
+    } catch (const RuntimeError&) {
+        const bool diskFailed = (sqlite3_errcode(handle_.get()) & 0xFF) == SQLITE_IOERR;
+        if (!diskFailed || !before) throw;
+        doubt_ = Doubt{statement.statementText(), *before};
+        if (!isInAllTheSame()) throw;
+        base::reportSwallowed({base::existsOrNoAccess,
+                               "The disk failed behind the writing of " + fileName_ + ": what was written is in it"});
+        return 1;
     }
     return sqlite3_changes64(handle_.get());
+}
+
+/// The head of the file counts the commits. It is read past the engine, which keeps a copy.
+std::optional<std::uint32_t> Connection::commitCount() const
+{
+    constexpr sqlite3_int64 place = 24;
+    sqlite3_file* file = nullptr;
+    std::array<unsigned char, 4> bytes{};
+    if (sqlite3_file_control(handle_.get(), "main", SQLITE_FCNTL_FILE_POINTER, &file) != SQLITE_OK) return std::nullopt;
+    if (file == nullptr || file->pMethods == nullptr) return std::nullopt;
+    if (file->pMethods->xRead(file, bytes.data(), static_cast<int>(bytes.size()), place) != SQLITE_OK)
+        return std::nullopt;
+    std::uint32_t count = 0;
+    for (const unsigned char byte : bytes)
+        count = count << 8U | byte;
+    return count;
+}
+
+/// Asks the file whether it has the commit that failed, and makes safe what it has. False when it has not, or when
+/// nobody can tell: then the doubt stays.
+bool Connection::isInAllTheSame()
+{
+    try {
+        // The first look takes back what the commit left half done.
+        settingAfter("PRAGMA schema_version");
+        const std::optional<std::uint32_t> now = commitCount();
+        if (!now) return false;
+        const bool isIn = *now != doubt_->commitsBefore;
+        // The end of the journal may not be on the disk: a power cut would bring it back, and with it the state before.
+        // The journal of one more commit takes its place.
+        if (isIn) settingAfter("PRAGMA user_version=0");
+        doubt_.reset();
+        return isIn;
+    } catch (const RuntimeError&) {
+        return false;
+    }
+}
+
+/// Another statement ends the doubt. What the failed commit left half done is taken back first, as it would count.
+void Connection::leaveDoubt()
+{
+    if (!doubt_) return;
+    doubt_.reset();
+    base::quietly<base::existsOrNoAccess, base::noDatabase>([this] { settingAfter("PRAGMA schema_version"); });
 }
 
 bool Connection::hasTable(const std::string& name)
@@ -161,6 +219,11 @@ bool Connection::fileHasMoved() const
     const int code = sqlite3_file_control(handle_.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
     // A file system on which an open file cannot be moved does not know the question.
     return code == SQLITE_OK && moved != 0;
+}
+
+bool Connection::isForReadingOnly() const
+{
+    return sqlite3_db_readonly(handle_.get(), "main") == 1;
 }
 
 void Connection::raise(int code, Access access) const
@@ -203,7 +266,7 @@ std::shared_ptr<Connection> connectionTo(const std::filesystem::path& file)
     const std::string place = placeOf(file);
     if (const auto found = registry().find(place); found != registry().end()) {
         std::shared_ptr<Connection> open = found->second.lock();
-        if (open != nullptr && !open->fileHasMoved()) return open;
+        if (open != nullptr && !open->fileHasMoved() && !open->isForReadingOnly()) return open;
     }
     std::erase_if(registry(), [](const auto& entry) { return entry.second.expired(); });
     auto fresh = std::make_shared<Connection>(file);

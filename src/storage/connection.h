@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -39,7 +40,9 @@ class Connection {
     /// Runs one statement of SQLite that gives no rows; what it changed is durable when this returns.
     void execute(const std::string& statement);
 
-    /// Runs a prepared statement to its end and returns the number of rows that it changed.
+    /// Runs a prepared statement to its end and returns the number of rows that it changed. When the disk fails at the
+    /// very end of the commit, the rows may be in the file all the same: if they are, that is no error. As long as the
+    /// disk does not even tell, the same statement in execute() is not run a second time once it is known to be in.
     std::int64_t run(PreparedStatement& statement);
 
     /// True when the file has this table, in any case of letters.
@@ -50,6 +53,9 @@ class Connection {
 
     /// True when the file was removed, or another one stands under its name.
     bool fileHasMoved() const;
+
+    /// True when the file could only be opened for reading. That may be over when it is opened anew.
+    bool isForReadingOnly() const;
 
     /// Raises the error that a code of SQLite stands for.
     [[noreturn]] void raise(int code, Access access) const;
@@ -72,17 +78,28 @@ class Connection {
     /// Resets a statement and keeps it, in place of the one that was not used for longest.
     void keep(const std::string& text, StatementHandle statement);
 
+    /// A commit that failed on the disk.
+    struct Doubt {
+        std::string statement;
+        std::uint32_t commitsBefore = 0;
+    };
+
     void prepareFile();
     std::string settingAfter(const char* pragma);
+    std::optional<std::uint32_t> commitCount() const;
+    bool isInAllTheSame();
+    void leaveDoubt();
 
     std::filesystem::path file_;
     std::string fileName_;
     std::unique_ptr<sqlite3, Close> handle_;
     std::vector<KeptStatement> kept_;  ///< oldest first; behind the handle, so that it goes before it
     std::uint64_t writes_ = 0;
+    std::optional<Doubt> doubt_;
 };
 
-/// The connection to a file: the open one if there is one, unless the file was removed or replaced in the meantime.
+/// The connection to a file: the open one if there is one, unless the file was removed or replaced in the meantime, or
+/// could only be opened for reading.
 std::shared_ptr<Connection> connectionTo(const std::filesystem::path& file);
 
 }  // namespace storage

@@ -54,7 +54,7 @@ Database OpenDatabase(const std::string& path)
     static std::map<std::string, std::weak_ptr<Connection>> knownPaths;
     std::weak_ptr<Connection>& known = knownPaths[path];
     std::shared_ptr<Connection> connection = known.lock();
-    if (connection == nullptr || connection->fileHasMoved()) {
+    if (connection == nullptr || connection->fileHasMoved() || connection->isForReadingOnly()) {
         connection = connectionTo(platform::resolve(path));
         known = connection;
     }

@@ -28,6 +28,9 @@ class PreparedStatement {
     /// Goes on to the next row. False when there is none.
     bool step();
 
+    /// The text that it was made from.
+    const std::string& statementText() const { return text_; }
+
     int columnCount() const;
     std::string columnName(int column) const;
 

@@ -12,6 +12,7 @@
 #include "base/number.h"
 #include "base/runtime_error.h"
 #include "base/text.h"
+#include "platform/file_calls.h"
 #include "platform/files.h"
 
 namespace storage {
@@ -102,6 +103,8 @@ class UnfinishedFile {
     fs::path place_;
 };
 
+constexpr std::string_view unfinishedEnd = ".new";
+
 /// A name beside `file` that nothing has yet.
 fs::path temporaryNameFor(const fs::path& file)
 {
@@ -110,9 +113,30 @@ fs::path temporaryNameFor(const fs::path& file)
         fs::path name = file;
         name += ".";
         name += base::toText(random());
-        name += ".new";
+        name += unfinishedEnd;
         if (!fs::exists(fs::symlink_status(name))) return name;
     }
+}
+
+bool isTemporaryNameFor(std::string_view fileName, std::string_view name)
+{
+    if (!name.starts_with(std::string(fileName) + ".") || !name.ends_with(unfinishedEnd)) return false;
+    if (name.size() <= fileName.size() + 1 + unfinishedEnd.size()) return false;
+    const std::string_view number =
+        name.substr(fileName.size() + 1, name.size() - fileName.size() - 1 - unfinishedEnd.size());
+    return number.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+/// Removes what a making left that was killed, or whose power went.
+void sweepUnfinished(const fs::path& folder, std::string_view fileName)
+{
+    std::vector<fs::path> unfinished;
+    std::error_code ignored;
+    for (fs::directory_iterator entry(folder, ignored), end; !ignored && entry != end; entry.increment(ignored))
+        if (isTemporaryNameFor(fileName, platform::pathText(entry->path().filename())))
+            unfinished.push_back(entry->path());
+    for (const fs::path& file : unfinished)
+        fs::remove(file, ignored);
 }
 
 [[noreturn]] void refuse(int code, const DatabaseSchema& database, const std::string& why)
@@ -135,13 +159,22 @@ void writeDatabase(const fs::path& file, const DatabaseSchema& database)
 
 /// Gives the finished file its name, and fails where that name has come into use: a second link cannot replace a file,
 /// as renaming would. A file system without links is asked first instead.
-void putInPlace(const fs::path& finished, const fs::path& file, const DatabaseSchema& database)
+void giveName(const fs::path& finished, const fs::path& file, const DatabaseSchema& database)
 {
     std::error_code failed;
     fs::create_hard_link(finished, file, failed);
     if (!failed) return;
     if (fs::exists(fs::symlink_status(file))) refuse(SQLITE_ERROR, database, "a file of this name has appeared");
     fs::rename(finished, file, failed);
+    if (failed) refuse(SQLITE_ERROR, database, failed.message());
+}
+
+/// The same, safe from a power cut.
+void putInPlace(const fs::path& finished, const fs::path& file, const DatabaseSchema& database)
+{
+    giveName(finished, file, database);
+    std::error_code failed;
+    platform::synchroniseFolder(file.parent_path(), failed);
     if (failed) refuse(SQLITE_ERROR, database, failed.message());
 }
 
@@ -166,6 +199,7 @@ std::vector<std::string_view> makeMissingDatabases(const fs::path& folder)
 {
     std::vector<std::string_view> made;
     for (const DatabaseSchema& database : databases) {
+        sweepUnfinished(folder, database.fileName);
         if (isThere(folder, database.fileName)) continue;
         const fs::path file = folder / database.fileName;
         const UnfinishedFile unfinished(temporaryNameFor(file));
