@@ -2,11 +2,14 @@
 // INSERTs into a file next to it, and the memory of the process behind each. Prints milliseconds and megabytes.
 //
 //     long_run_bench [QSOS]      5000 when not given
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <fstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "bench_folder.h"
@@ -39,12 +42,16 @@ double residentMegabytes()
 struct Part {
     std::vector<double> qsos;
     std::vector<double> inserts;
+    double processorMilliseconds = 0;  ///< of all QSOs: whatever the disk and other programs do meanwhile
     double megabytes = 0;
 
+    double processorPerQso() const { return processorMilliseconds / static_cast<double>(qsos.size()); }
     void print(int number) const
     {
-        std::printf("part %d: a QSO: median %7.3f   99%% %7.3f   | a bare INSERT: median %7.3f   | %.1f MB\n", number,
-                    bench::quantile(qsos, 0.5), bench::quantile(qsos, 0.99), bench::quantile(inserts, 0.5), megabytes);
+        std::printf(
+            "part %d: a QSO: processor %6.3f   median %7.3f   99%% %7.3f   | a bare INSERT: median %7.3f   | %.1f MB\n",
+            number, processorPerQso(), bench::quantile(qsos, 0.5), bench::quantile(qsos, 0.99),
+            bench::quantile(inserts, 0.5), megabytes);
     }
 };
 
@@ -58,10 +65,12 @@ std::vector<Part> play(int qsos)
     contest.begin();
     std::vector<Part> parts(partCount);
     for (int qso = 0; qso < qsos; ++qso) {
-        Part& part = parts[static_cast<std::size_t>(qso / (qsos / partCount))];
+        Part& part = parts.at(static_cast<std::size_t>(qso / (qsos / partCount)));
         contest.comeToNext();
+        const std::clock_t processorBefore = std::clock();
         auto start = Clock::now();
         contest.logNext();
+        part.processorMilliseconds += 1000.0 * static_cast<double>(std::clock() - processorBefore) / CLOCKS_PER_SEC;
         part.qsos.push_back(millisecondsSince(start));
         start = Clock::now();
         bare.execute(
@@ -88,6 +97,7 @@ int main(int argc, char** argv)
         parts[i].print(static_cast<int>(i) + 1);
     for (const auto& [name, part] : {std::pair("first", &parts.front()), std::pair("last", &parts.back())}) {
         bench::tellFigure(std::string(name) + ".qso", bench::quantile(part->qsos, 0.5), "ms");
+        bench::tellFigure(std::string(name) + ".processor", part->processorPerQso(), "ms");
         // The disk may have become slower meanwhile.
         bench::tellFigure(std::string(name) + ".inserts",
                           bench::quantile(part->qsos, 0.5) / bench::quantile(part->inserts, 0.5), "INSERTs");

@@ -1,5 +1,6 @@
 #include "support/long_contest.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cmath>
@@ -150,6 +151,25 @@ std::array<std::string, 2> stampOf(std::chrono::nanoseconds sinceStart)
     return {dateText, timeText};
 }
 
+/// One running code for all bands. A change of band reads it back from the logs, of each the last three characters of
+/// the last code: behind 999 a code may come twice.
+class RunningCode {
+ public:
+    int next(const Plan& plan)
+    {
+        if (plan.newBand) {
+            last_ = 0;
+            for (const auto& [table, code] : lastOf_)
+                last_ = std::max(last_, code % 1000);
+        }
+        return lastOf_[plan.band->table] = ++last_;
+    }
+
+ private:
+    int last_ = 0;
+    std::map<std::string, int> lastOf_;
+};
+
 // Three lines of the station, 14 of what nobody asks for here, and the name.
 constexpr const char* setUp = R"(port 1
 now 2026-11-14 18:00:00
@@ -194,6 +214,7 @@ std::vector<ExpectedQso> expectedLog(int qsos)
 {
     std::vector<ExpectedQso> log;
     std::map<std::string, std::vector<std::size_t>> rowsOf;  // by table and call
+    RunningCode code;
     for (int qso = 0; qso < qsos; ++qso) {
         const Plan plan = planOf(qso);
         const BandPlan& band = *plan.band;
@@ -206,8 +227,8 @@ std::vector<ExpectedQso> expectedLog(int qsos)
                 log[row].columns.back() = "0";
         earlier.push_back(log.size());
         log.push_back({band.table,
-                       {call, date, time, report + threeDigits(qso + 1), report + threeDigits(plan.code), band.mode,
-                        band.mhz, locatorOf(plan.station), std::to_string(pointsOf(plan))}});
+                       {call, date, time, report + threeDigits(code.next(plan)), report + threeDigits(plan.code),
+                        band.mode, band.mhz, locatorOf(plan.station), std::to_string(pointsOf(plan))}});
     }
     return log;
 }
