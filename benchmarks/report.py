@@ -19,16 +19,15 @@ HEAD = ["Promise", "Measured", "Baseline", "Ratio", "Goal", "Kept"]
 
 
 def figures_of_google(file):
-    """Medians by "PROGRAM/BENCHMARK/ARGUMENTS", as pairs of value and unit; counters behind a dot."""
+    """Medians by "PROGRAM/BENCHMARK/ARGUMENTS", as pairs of value and unit; a counter behind a dot."""
     figures = {}
     for run in json.loads(file.read_text())["benchmarks"]:
         if run.get("aggregate_name") != "median" or run.get("error_occurred"):
             continue
         name = re.sub(r"/(iterations:\d+|repeats:\d+|manual_time|real_time)", "", run["run_name"])
         figures[f"{file.stem}/{name}"] = (run["real_time"], run["time_unit"])
-        for counter in ("longest_ms",):
-            if counter in run:
-                figures[f"{file.stem}/{name}.{counter}"] = (run[counter], "ms")
+        if "longest_ms" in run:
+            figures[f"{file.stem}/{name}.longest_ms"] = (run["longest_ms"], "ms")
     return figures
 
 
@@ -64,9 +63,12 @@ def value_of(expression, unit, figures):
 
 
 def text_of(value, unit):
+    """Three digits that count."""
     if value is None:
         return "-"
-    digits = 0 if value == round(value) and value < 1000 else 3 if value < 1 else 2 if value < 10 else 1 if value < 100 else 0
+    digits = 3 if value < 1 else 2 if value < 10 else 1 if value < 100 else 0
+    if unit == "stalls":
+        digits = 0
     return f"{value:.{digits}f} {'µs' if unit == 'us' else unit}"
 
 
@@ -120,7 +122,7 @@ def print_table(rows):
 
     print(line(HEAD))
     for row in rows:
-        print(f"\n{row}" if isinstance(row, str) else "  ".join([line(row)]))
+        print(f"\n{row}" if isinstance(row, str) else line(row))
 
 
 def machine():
