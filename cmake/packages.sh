@@ -4,9 +4,11 @@
 build_packages=(g++ cmake ninja-build libsqlite3-dev)
 # The desktop program.
 desktop_packages=(qt6-base-dev qt6-serialport-dev libopenal-dev libasound2 fonts-dejavu-core fonts-liberation)
-# Tests, checks and benchmarks; real keys into a real window.
-test_packages=(libgtest-dev libgmock-dev libbenchmark-dev clang-format clang-tidy xvfb xdotool sqlite3 poppler-utils
+# Tests and checks; real keys into a real window; distances by somebody else.
+test_packages=(libgtest-dev libgmock-dev libgeographiclib-dev clang-format clang-tidy xvfb xdotool sqlite3 poppler-utils
     g++-mingw-w64-x86-64-posix)
+# Benchmarks, and the table of what they measured.
+bench_packages=(libbenchmark-dev python3 util-linux)
 # The Windows program, made here, and Windows to try it under.
 windows_packages=(g++-mingw-w64-x86-64-posix qt6-base-dev qt6-base-dev-tools dpkg-dev tcl googletest zip)
 wine_packages=(wine wine64 xvfb xdotool imagemagick sqlite3)

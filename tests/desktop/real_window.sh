@@ -92,11 +92,12 @@ start_server() {
     export ALSOFT_DRIVERS=null
 }
 
-# start_program [VARIABLE=VALUE...]: the program in its folder, the keyboard in its window.
+# start_program [VARIABLE=VALUE...]: the program in its folder, the keyboard in its window. Another one than kelvo is
+# named in $program_name.
 start_program() {
     mkdir -p "$station"
     "$programs/kelvo-newdb" "$station" >/dev/null
-    env "$@" "$programs/kelvo" --folder "$station" >"$work/program.log" 2>&1 &
+    env "$@" "$programs/${program_name:-kelvo}" --folder "$station" >"$work/program.log" 2>&1 &
     program=$!
     window=$(timeout 30 xdotool search --sync --onlyvisible --name '^Kelvo$' | head -n 1) || true
     [ -n "$window" ] || fail "no window"

@@ -3,15 +3,16 @@
 //
 //     QT_QPA_PLATFORM=offscreen deadline_bench
 #include <QApplication>
-#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <cstdio>
+#include <string>
 #include <thread>
 #include <vector>
 
 #include "bench_folder.h"
 #include "desktop/desktop_program.h"
+#include "figure.h"
 #include "screen/frm_init.h"
 
 namespace {
@@ -35,13 +36,12 @@ Late measure(Now now, SleepUntil sleepUntil)
     return late;
 }
 
-void print(const char* name, Late late)
+void print(const char* name, const char* figure, const Late& late)
 {
-    std::sort(late.begin(), late.end());
-    const auto at = [&](double part) {
-        return late[static_cast<std::size_t>(part * static_cast<double>(late.size() - 1))];
-    };
-    std::printf("%-34s median %7.3f   99%% %7.3f   worst %7.3f\n", name, at(0.5), at(0.99), at(1.0));
+    std::printf("%-34s median %7.3f   99%% %7.3f   worst %7.3f\n", name, bench::quantile(late, 0.5),
+                bench::quantile(late, 0.99), bench::quantile(late, 1));
+    bench::tellFigure(std::string(figure) + ".median", bench::quantile(late, 0.5), "ms");
+    bench::tellFigure(std::string(figure) + ".99", bench::quantile(late, 0.99), "ms");
 }
 
 Late bareLoop()
@@ -87,8 +87,11 @@ Late onProgramThread()
 int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
-    print("bare loop, idle", bareLoop());
-    print("program thread, window repainting", onProgramThread());
-    print("bare loop, idle, again", bareLoop());
+    Late bare = bareLoop();
+    const Late program = onProgramThread();
+    const Late bareAgain = bareLoop();
+    bare.insert(bare.end(), bareAgain.begin(), bareAgain.end());
+    print("program thread, window repainting", "program", program);
+    print("bare loop, idle, before and behind", "bare", bare);
     return 0;
 }

@@ -2,7 +2,8 @@
 // its lines change; meanwhile the window repaints. Beside it a bare loop that sleeps to the same deadlines. Prints how
 // far dots, dashes and gaps are from the length that they should have, in milliseconds.
 //
-//     QT_QPA_PLATFORM=offscreen keying_bench [SECONDS]      of each measurement, 15 when not given
+//     QT_QPA_PLATFORM=offscreen keying_bench [SECONDS [NAME]]      of each measurement, 15 when not given; NAME stands
+//                                                                  in front of the figures that are told
 #include <QApplication>
 #include <algorithm>
 #include <atomic>
@@ -18,6 +19,7 @@
 #include "../tests/desktop/serial_adapter.h"
 #include "bench_folder.h"
 #include "desktop/desktop_program.h"
+#include "figure.h"
 #include "keyer/cw.h"
 #include "runstate/modul1.h"
 #include "screen/frm_init.h"
@@ -103,17 +105,13 @@ double mean(const std::vector<double>& values)
     return std::accumulate(values.begin(), values.end(), 0.0) / static_cast<double>(values.size());
 }
 
-void print(const char* name, Errors errors)
+void print(const char* name, const Errors& errors)
 {
-    std::vector<double>& sorted = errors.elements;
-    std::sort(sorted.begin(), sorted.end());
-    const auto at = [&](double part) {
-        return sorted[static_cast<std::size_t>(part * static_cast<double>(sorted.size() - 1))];
-    };
+    const auto at = [&](double part) { return bench::quantile(errors.elements, part); };
     std::printf(
         "   %-10s %5zu elements: median %6.3f   99%% %6.3f   worst %6.3f   "
         "| a character: mean %+6.3f   worst %6.3f   | a message: mean %+6.3f\n",
-        name, sorted.size(), at(0.5), at(0.99), at(1), mean(errors.characters), furthest(errors.characters),
+        name, errors.elements.size(), at(0.5), at(0.99), at(1), mean(errors.characters), furthest(errors.characters),
         mean(errors.messages));
     std::fflush(stdout);
 }
@@ -208,8 +206,25 @@ void sleepOneMessage(desktop::DesktopProgram& program, Job& current)
     bare.join();
 }
 
+/// What all speeds together come to.
+struct Together {
+    std::vector<double> keyer;
+    std::vector<double> bare;
+
+    void tell(const std::string& name) const
+    {
+        bench::tellFigure(name + ".keyer.99", bench::quantile(keyer, 0.99), "ms");
+        bench::tellFigure(name + ".bare.99", bench::quantile(bare, 0.99), "ms");
+    }
+};
+
+void append(std::vector<double>& all, const std::vector<double>& some)
+{
+    all.insert(all.end(), some.begin(), some.end());
+}
+
 /// Both by turns, so that they see the same computer.
-void measure(desktop::DesktopProgram& program, int wpm, std::chrono::seconds time)
+void measure(desktop::DesktopProgram& program, int wpm, std::chrono::seconds time, Together& together)
 {
     Job keyer{wpm, {}, {}};
     Job bare{wpm, {}, {}};
@@ -220,9 +235,11 @@ void measure(desktop::DesktopProgram& program, int wpm, std::chrono::seconds tim
     } while (std::chrono::steady_clock::now() < end);
     print("keyer", keyer.errors);
     print("bare loop", bare.errors);
+    append(together.keyer, keyer.errors.elements);
+    append(together.bare, bare.errors.elements);
 }
 
-void measureAll(std::chrono::seconds time)
+void measureAll(std::chrono::seconds time, const std::string& name)
 {
     const bench::Folder folder;
     const test::SerialAdapter adapter;
@@ -235,10 +252,12 @@ void measureAll(std::chrono::seconds time)
     FrmInit.mnuInit.Click = keyInHandler;
     for (const bool busy : {false, true}) {
         const BusyCores load(busy);
+        Together together;
         for (const int wpm : {10, 20, 30, 40}) {
             std::printf("%d words a minute, %s\n", wpm, busy ? "all cores busy" : "idle");
-            measure(program, wpm, time);
+            measure(program, wpm, time, together);
         }
+        together.tell(name + (busy ? ".busy" : ".idle"));
     }
 }
 
@@ -248,6 +267,6 @@ int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
     constexpr int usualSeconds = 15;
-    measureAll(std::chrono::seconds(argc > 1 ? std::atoi(argv[1]) : usualSeconds));
+    measureAll(std::chrono::seconds(argc > 1 ? std::atoi(argv[1]) : usualSeconds), argc > 2 ? argv[2] : "keying");
     return 0;
 }

@@ -10,6 +10,7 @@
 
 #include "bench_folder.h"
 #include "desktop/desktop_program.h"
+#include "figure.h"
 #include "screen/frm_init.h"
 #include "screen/frm_qso.h"
 #include "support/station.h"
@@ -35,6 +36,7 @@ void showEmptyWindow()
     for (int i = 0; i < 20; ++i)
         QApplication::processEvents();
     std::printf("empty window %.1f\n", residentMegabytes());
+    bench::tellFigure("empty", residentMegabytes(), "MB");
 }
 
 void showLog()
@@ -59,6 +61,7 @@ void showLog()
     program.waitUntilIdle();
     const bool shown = program.picture().form == "FrmQSO" && FrmQSO.DBGrid1.seen();
     std::printf("kelvo, 30,000 rows %.1f%s\n", residentMegabytes(), shown ? "" : " (the log is NOT in view)");
+    bench::tellFigure("kelvo", residentMegabytes(), "MB");
 }
 
 }  // namespace

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "bench_folder.h"
+#include "figure.h"
 #include "start_mark.h"
 
 namespace {
@@ -87,6 +88,8 @@ int main(int argc, char** argv)
     }
     print("empty window, painted", ofEmpty);
     print("set-up page, taking keys", ofKelvo);
+    bench::tellFigure("empty", median(ofEmpty), "ms");
+    bench::tellFigure("kelvo", median(ofKelvo), "ms");
     const double over = median(ofKelvo) - median(ofEmpty);
     std::printf("the page over the window     %7.1f ms, %.2f times; at most %.0f ms: %s\n", over,
                 median(ofKelvo) / median(ofEmpty), mostMillisecondsOver, over <= mostMillisecondsOver ? "yes" : "NO");

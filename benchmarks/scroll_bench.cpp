@@ -8,10 +8,12 @@
 #include <cstdio>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "bench_folder.h"
 #include "desktop/desktop_program.h"
+#include "figure.h"
 #include "screen/frm_anzeigen.h"
 #include "screen/frm_init.h"
 #include "support/station.h"
@@ -101,6 +103,9 @@ class Window {
     desktop::DesktopProgram program_;
 };
 
+Times allShown;
+Times allPainted;
+
 void print(const std::string& name, const char* what, Times times)
 {
     std::sort(times.begin(), times.end());
@@ -119,6 +124,8 @@ void measure(Window& window, const screen::Grid& grid, const std::string& name, 
     Times painted;
     for (int i = 0; i < steps; ++i)
         window.step(grid, entryOfStep(i), shown, painted);
+    allShown.insert(allShown.end(), shown.begin(), shown.end());
+    allPainted.insert(allPainted.end(), painted.begin(), painted.end());
     print(name, "shown", shown);
     print(name, "painted", painted);
 }
@@ -165,5 +172,9 @@ int main(int argc, char** argv)
     test::fillMemory(folder.path(), rows);
     reviewBandContest(folder);
     reviewMaraton(folder);
+    for (const auto& [what, times] : {std::pair("shown", &allShown), std::pair("painted", &allPainted)}) {
+        bench::tellFigure(std::string(what) + ".99", bench::quantile(*times, 0.99), "ms");
+        bench::tellFigure(std::string(what) + ".worst", bench::quantile(*times, 1), "ms");
+    }
     return 0;
 }
