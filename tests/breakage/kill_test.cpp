@@ -35,7 +35,7 @@ using test::Row;
 constexpr std::chrono::seconds patience(120);
 
 struct Settings {
-    int kills = 186;
+    int kills = 124;
     unsigned seed = std::random_device{}();
     fs::path program = fs::path(KELVO_PROGRAM_FOLDER) / "kelvo-script";
 };

@@ -74,8 +74,10 @@ const std::vector<Work>& table()
         {"first set-up files", logs,
          contest + "focus TxtMyCall\ntype \"yo2xyz\"\nkey Enter\ntype \"kn05os\"\nkey Enter\n", "click mnuQSOfahren\n",
          "click mnuAnfang\nclick mnuQSOfahren\n", false, true},
-        {"changed set-up files", station + logs, contest + "focus TxtMyCall\ntype \"/P\"\n", "click mnuQSOfahren\n",
-         "click mnuAnfang\nfocus TxtMyCall\ntype \"/P\"\nclick mnuQSOfahren\n", false, true},
+        {"changed set-up files", station + logs,
+         contest + "focus TxtMyCall\nkey End Backspace Backspace Backspace\ntype \"NEW\"\n", "click mnuQSOfahren\n",
+         "click mnuAnfang\nfocus TxtMyCall\nkey End Backspace Backspace Backspace\ntype \"NEW\"\nclick mnuQSOfahren\n",
+         false, true},
     };
     return rows;
 }
