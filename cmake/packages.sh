@@ -11,7 +11,7 @@ test_packages=(libgtest-dev libgmock-dev libgeographiclib-dev clang-format clang
 bench_packages=(libbenchmark-dev python3 util-linux)
 # The Windows program, made here, and Windows to try it under.
 windows_packages=(g++-mingw-w64-x86-64-posix qt6-base-dev qt6-base-dev-tools dpkg-dev tcl googletest zip)
-wine_packages=(wine wine64 xvfb xdotool imagemagick sqlite3)
+wine_packages=(wine wine64 fonts-wine openbox xvfb xdotool imagemagick sqlite3)
 # The compiler that fuzzes, with its sanitizers (./fuzz).
 fuzz_packages=(clang libclang-rt-14-dev)
 # What packs the archive for Linux.

@@ -17,7 +17,7 @@ constexpr int speeds[] = {9,  10, 11, 12, 13, 14, 15, 16, 18, 20, 22, 24, 25,
 
 long whole(double milliseconds)
 {
-    return keyer::wholeMilliseconds(milliseconds).count();
+    return static_cast<long>(keyer::wholeMilliseconds(milliseconds).count());
 }
 
 TEST(MorseTable, HasItsRowsInOrder)

@@ -43,7 +43,7 @@ class Writers : public test::FilledLog {
     long linesOfArchive() const
     {
         std::ifstream file(archive(), std::ios::binary);
-        return std::count(std::istreambuf_iterator<char>(file), {}, '\n');
+        return static_cast<long>(std::count(std::istreambuf_iterator<char>(file), {}, '\n'));
     }
 };
 

@@ -71,6 +71,11 @@ bool isThirdShift(const QKeyEvent& event, char32_t character)
     return both && character != 0 && !isLetterOrDigit(event.key());
 }
 
+bool isModifier(int key)
+{
+    return (key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock) || key == Qt::Key_AltGr;
+}
+
 bool belongsToSystem(const QKeyEvent& event)
 {
     const bool alt = event.modifiers().testFlag(Qt::AltModifier);
@@ -123,16 +128,49 @@ std::vector<KeyTranslator::DownKey>::iterator KeyTranslator::downKeyOf(const QKe
     return std::find_if(down_.begin(), down_.end(), [&](const DownKey& key) { return key.toolkitKey.isKeyOf(event); });
 }
 
+bool KeyTranslator::Press::isThatOf(const QKeyEvent& event) const
+{
+    return instant != 0 && instant == event.timestamp() && saidToRepeat == event.isAutoRepeat() &&
+           toolkitKey.isKeyOf(event);
+}
+
+/// The key that went down last repeats, no other, and at least once a second. A repeat that cannot be one is a press:
+/// the release before went to no window, and the toolkit still takes the key for one that is held.
+bool KeyTranslator::releaseWasMissed(const QKeyEvent& press) const
+{
+    constexpr quint64 longestPauseMilliseconds = 1500;
+    if (!lastPress_ || lastPress_->instant == 0 || press.timestamp() == 0) return false;
+    if (!lastPress_->toolkitKey.isKeyOf(press)) return true;
+    return press.timestamp() - lastPress_->instant > longestPauseMilliseconds;
+}
+
+void KeyTranslator::note(const QKeyEvent& press, bool repeat)
+{
+    // Held beside another key, they leave it repeating.
+    if (isModifier(press.key())) return;
+    lastPress_ = Press{{press.nativeScanCode(), press.key()}, press.timestamp(), press.isAutoRepeat(), repeat};
+}
+
+bool KeyTranslator::wentDown(const QKeyEvent& press)
+{
+    const bool repeat = isRepeat(press);
+    note(press, repeat);
+    return repeat;
+}
+
 bool KeyTranslator::isRepeat(const QKeyEvent& press) const
 {
-    if (press.isAutoRepeat()) return true;
+    // One press passes through several windows.
+    if (lastPress_ && lastPress_->isThatOf(press)) return lastPress_->repeat;
+    if (press.isAutoRepeat()) return !releaseWasMissed(press);
     return lastRelease_ && lastRelease_->instant != 0 && lastRelease_->instant == press.timestamp() &&
            lastRelease_->toolkitKey.isKeyOf(press);
 }
 
 KeyTranslator::Entries KeyTranslator::keyDown(const QKeyEvent& event)
 {
-    if (held_ && held_->toolkitKey.isKeyOf(event) && isRepeat(event)) {
+    const bool repeat = wentDown(event);
+    if (held_ && held_->toolkitKey.isKeyOf(event) && repeat) {
         const DownKey same = *std::exchange(held_, std::nullopt);
         down_.push_back(same);
         return {app::KeyWentDown{same.key, true}};
@@ -140,7 +178,7 @@ KeyTranslator::Entries KeyTranslator::keyDown(const QKeyEvent& event)
 
     Entries entries = turned();
     const auto down = downKeyOf(event);
-    if (isRepeat(event)) {
+    if (repeat) {
         // Not down any more: it came up before its repeat was seen. That is over, whatever the key does now.
         if (down != down_.end()) entries.push_back(app::KeyWentDown{down->key, true});
         return entries;

@@ -34,8 +34,11 @@ class KeyTranslator {
     Entries turned();
 
     /// A press that continues one: the toolkit says so, or the key came up at this very instant. The toolkit says so
-    /// only when it sees both events together.
+    /// only when it sees both events together, and wrongly where it did not see the release.
     bool isRepeat(const QKeyEvent& press) const;
+
+    /// A key went down that is not for the form. True when that is a repeat.
+    bool wentDown(const QKeyEvent& press);
 
     /// Another application has the keyboard: releases of all keys that went down in the form.
     Entries allUp();
@@ -61,11 +64,23 @@ class KeyTranslator {
         quint64 instant = 0;
     };
 
+    struct Press {
+        ToolkitKey toolkitKey;
+        quint64 instant = 0;
+        bool saidToRepeat = false;
+        bool repeat = false;
+
+        bool isThatOf(const QKeyEvent& event) const;
+    };
+
+    bool releaseWasMissed(const QKeyEvent& press) const;
+    void note(const QKeyEvent& press, bool repeat);
     std::vector<DownKey>::iterator downKeyOf(const QKeyEvent& event);
 
     std::vector<DownKey> down_;
     std::optional<DownKey> held_;  ///< its release is kept back
     std::optional<Release> lastRelease_;
+    std::optional<Press> lastPress_;  ///< of all but modifiers, in whatever window
 };
 
 }  // namespace desktop

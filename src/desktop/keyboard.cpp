@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QWindow>
 
 namespace desktop {
 
@@ -41,11 +42,14 @@ bool Keyboard::eventFilter(QObject* watched, QEvent* event)
             return true;
         }
         case QEvent::KeyPress:
-            notePolled(*static_cast<QKeyEvent*>(event));
+            if (isOtherWindow(*watched)) notePolled(*static_cast<QKeyEvent*>(event));
             // A key that is held answers no message box: neither the one that it raised, nor the next one.
             if (QApplication::activeModalWidget() != nullptr)
-                return translator_.isRepeat(*static_cast<QKeyEvent*>(event));
-            if (!onForm || !isForForm(*static_cast<QKeyEvent*>(event))) return false;
+                return translator_.wentDown(*static_cast<QKeyEvent*>(event));
+            if (!onForm || !isForForm(*static_cast<QKeyEvent*>(event))) {
+                translator_.wentDown(*static_cast<QKeyEvent*>(event));
+                return false;
+            }
             wentDown(*static_cast<QKeyEvent*>(event));
             return true;
         case QEvent::KeyRelease:
@@ -65,6 +69,12 @@ bool Keyboard::isForForm(const QKeyEvent& event) const
     return event.key() > 0xFFFF || !menuLetters_.contains(QChar(event.key()));
 }
 
+/// Each key passes through a window first, and through that once.
+bool Keyboard::isOtherWindow(const QObject& watched) const
+{
+    return watched.isWindowType() && &watched != form_.window()->windowHandle();
+}
+
 /// What stops a message stops it in every window of the program, be it that of the help.
 void Keyboard::notePolled(const QKeyEvent& event)
 {
@@ -75,9 +85,10 @@ void Keyboard::notePolled(const QKeyEvent& event)
 void Keyboard::wentDown(const QKeyEvent& event)
 {
     if (isPaste(event)) {
-        if (!translator_.isRepeat(event)) post_(app::TextPasted{QGuiApplication::clipboard()->text().toStdString()});
+        if (!translator_.wentDown(event)) post_(app::TextPasted{QGuiApplication::clipboard()->text().toStdString()});
         return;
     }
+    notePolled(event);
     post(translator_.keyDown(event));
 }
 

@@ -30,6 +30,7 @@ class Keyboard final : public QObject {
 
  private:
     bool isForForm(const QKeyEvent& event) const;
+    bool isOtherWindow(const QObject& watched) const;
     void notePolled(const QKeyEvent& event);
     void wentDown(const QKeyEvent& event);
     void cameUp(const QKeyEvent& event);

@@ -142,9 +142,9 @@ TEST_F(DesktopProgramTest, AKeyThatStopsAMessageDoesSoInEveryWindow)
     platform::KeyState& keys = station_.program().machine().keyState;
     QWidget other;
     other.show();
-    QTest::keyPress(&other, Qt::Key_End);
+    QTest::keyPress(other.windowHandle(), Qt::Key_End);
     EXPECT_TRUE(keys.pressed(platform::PolledKey::end));
-    QTest::keyRelease(&other, Qt::Key_End);
+    QTest::keyRelease(other.windowHandle(), Qt::Key_End);
     EXPECT_FALSE(keys.pressed(platform::PolledKey::end));
     EXPECT_EQ(station_.focus(), "TxtRpNr") << "the form hears nothing of it";
 }

@@ -267,4 +267,41 @@ TEST(KeyTranslatorTest, APressWhoseReleaseWasNeverSeenIsAPressAgain)
     EXPECT_EQ(told(down(translator, enter)), "v13");
 }
 
+/// As after a message box that was gone before its key came up: no window sees the release, and the toolkit goes on
+/// taking the key for one that is held.
+TEST(KeyTranslatorTest, ARepeatThatCannotBeOneIsAPress)
+{
+    KeyTranslator translator;
+    Stroke enter{Qt::Key_Return, "\r"};
+    enter.instant = 1000;
+    EXPECT_FALSE(translator.wentDown(*enter.event(QEvent::KeyPress)));
+    enter.repeat = true;
+    enter.instant = 1500;
+    EXPECT_EQ(told(down(translator, enter)), "") << "held over the box, it repeats";
+    EXPECT_EQ(told(down(translator, enter)), "") << "the same event in another window";
+    Stroke letter{Qt::Key_A, "a"};
+    letter.instant = 1600;
+    EXPECT_EQ(told(down(translator, letter)), "va");
+    enter.instant = 1700;
+    EXPECT_EQ(told(down(translator, enter)), "v13") << "the letter came between";
+    enter.instant = 2200;
+    EXPECT_EQ(told(down(translator, enter)), "r13");
+    enter.instant = 4000;
+    EXPECT_EQ(told(down(translator, enter)), "v13") << "no key is silent for so long";
+}
+
+TEST(KeyTranslatorTest, AModifierLeavesTheKeyBesideItRepeating)
+{
+    KeyTranslator translator;
+    Stroke letter{Qt::Key_A, "a"};
+    letter.instant = 1000;
+    EXPECT_EQ(told(down(translator, letter)), "va");
+    Stroke shift{Qt::Key_Shift};
+    shift.instant = 1100;
+    down(translator, shift);
+    letter.repeat = true;
+    letter.instant = 1200;
+    EXPECT_EQ(told(down(translator, letter)), "ra");
+}
+
 }  // namespace

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # The Windows program in its window under Wine, led by keys alone through an evening of an operator: QSOs, the end, a
-# new start, one more QSO, the EDI file. The Linux program is led the same way; rows and file must be the same.
+# new start, one more QSO, the EDI file, the printed log. The Linux program is led the same way; rows and file must be the same.
 #
 #   window_with_wine.sh LINUX_PROGRAMS WINDOWS_PROGRAMS [PICTURES]    PICTURES: a folder for what the screen showed
 set -euo pipefail
@@ -26,6 +26,8 @@ look() {
     [ -z "$pictures" ] || import -silent -window root "$pictures/$system-$1.png"
 }
 
+show_more() { look failed; }
+
 # Time and date are those of the run.
 rows() {
     sqlite3 -cmd '.timeout 2000' "$station/LogKelvo.mdb" \
@@ -39,8 +41,9 @@ begin() {
     pick_contest OpBCampNatUUS
 }
 
-# log_qso CALL CODE LOCATOR ROWS: and what stands in the log behind it.
+# log_qso CALL CODE LOCATOR ROWS: the locator behind its KN, and how many rows the log has then.
 log_qso() {
+    keys Ctrl+a
     text "$1"
     keys Tab
     text "$2$3"
@@ -78,6 +81,17 @@ write_edi_file() {
     wait_for "the EDI file" edi_file_is_there
 }
 
+# There is no printer: the sheet becomes a PDF in the folder of the results.
+sheet_is_there() { compgen -G "$station/L[oO][gG]/*.pdf" >/dev/null; }
+print_log() {
+    menu mnuLOGDrucken alt+r
+    choose OpBD144b
+    answer y
+    wait_for "the printed sheet" sheet_is_there
+    pdftotext -layout "$station"/L[oO][gG]/*.pdf - | grep -q YO8XXX || fail "the last QSO is not on the sheet"
+    rm "$station"/L[oO][gG]/*.pdf
+}
+
 lead() {
     local first
     system=$1
@@ -94,29 +108,39 @@ lead() {
     keys Alt+4 Alt+B Alt+S
     text yo7zzz
     look call
-    keys Ctrl+a
-    log_qso yo7zzz 021 kn15ab $((first + 1))
-    log_qso yo9yyy 022 kn34bc $((first + 2))
+    log_qso yo7zzz 021 15ab $((first + 1))
+    log_qso yo9yyy 022 34bc $((first + 2))
     look entry
     end_program
 
     step="going on after a new start on $system"
     work_stage_b
-    log_qso yo8xxx 023 kn37cd $((first + 3))
+    log_qso yo8xxx 023 37cd $((first + 3))
     end_program
 
     step="writing the EDI file on $system"
     begin
     start_review
     write_edi_file
-    look review
+    end_program
+
+    step="printing on $system"
+    begin
+    start_review
+    print_log
+    look print
     end_program
     rows >"$work/$system.rows"
 }
 
 start_server
+# Without a window manager Wine shows no window.
+openbox >/dev/null 2>&1 &
+helper=$!
 lead linux
 lead windows
 diff "$work/linux.rows" "$work/windows.rows"
+# The minutes in them are those of the run.
+sed -Ei "s/^([0-9]{8};)[0-9]{4};/\\1;/" "$work"/*-station/L[oO][gG]/*.edi
 diff -r "$work"/linux-station/L[oO][gG] "$work"/windows-station/L[oO][gG]
 echo "the same rows ($(wc -l <"$work/windows.rows")) and files on both systems"
