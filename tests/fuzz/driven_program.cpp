@@ -207,9 +207,11 @@ void DrivenProgram::wait(std::chrono::nanoseconds duration)
         const std::optional<MonotonicTime> tick = planned ? std::optional(std::max(*planned, now)) : std::nullopt;
         const bool alarmIsDue = !alarms_.empty() && alarms_.begin()->first <= end;
         const bool tickIsDue = tick && *tick <= end && (!alarmIsDue || *tick <= alarms_.begin()->first);
-        if (tickIsDue)
+        if (tickIsDue) {
             machine_.clock.moveTo(*tick);
-        else if (alarmIsDue)
+            // A timer that was never planned is due at once.
+            ticked_ = MonotonicTime(-1);
+        } else if (alarmIsDue)
             nextAlarm();
         else
             return machine_.clock.moveTo(end);

@@ -321,6 +321,7 @@ TEST_F(Watched, findsACountThatWentUpWithoutARow)
 {
     FrmQSO.LblQSO.Caption = "0";
     play("focus txtIndic");
+    FrmQSO.CmdEnterCall.Enabled = true;
     FrmQSO.txtIndic.KeyDown = [](int& /*KeyCode*/) { FrmQSO.LblQSO.Caption = "1"; };
     EXPECT_EQ(complaintOf([&] { play("key F12"); }),
               "the count on the screen went up to 1 without a row, and nobody was told");

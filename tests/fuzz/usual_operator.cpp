@@ -1,6 +1,7 @@
 #include "fuzz/usual_operator.h"
 
 #include <array>
+#include <map>
 
 #include "base/runtime_error.h"
 #include "fuzz/tables.h"
@@ -52,6 +53,15 @@ click CmdGata
 click mnuAnfang
 )";
 
+/// Reading a script costs more than playing it, and there are few of them.
+const script::Script& scriptFrom(std::string_view text)
+{
+    static std::map<std::string, script::Script, std::less<>> known;
+    const auto found = known.find(text);
+    if (found != known.end()) return found->second;
+    return known.emplace(text, script::parse(text, "usual")).first->second;
+}
+
 }  // namespace
 
 UsualOperator::UsualOperator(const std::filesystem::path& folder, unsigned choice)
@@ -62,7 +72,7 @@ UsualOperator::UsualOperator(const std::filesystem::path& folder, unsigned choic
 /// Steps that cannot be done are left out: with a damaged file much is not there.
 void UsualOperator::play(std::string_view script)
 {
-    for (const script::Statement& statement : script::parse(script, "usual").statements) {
+    for (const script::Statement& statement : scriptFrom(script).statements) {
         if (program_.tired()) return;
         try {
             if (statement.verb == script::Verb::start)
