@@ -3,6 +3,7 @@
 #include "base/runtime_error.h"
 #include "base/text.h"
 #include "platform/files.h"
+#include "platform/progress.h"
 
 namespace platform {
 
@@ -20,7 +21,9 @@ void ResultFile::print(std::string_view line)
 
 void ResultFile::close()
 {
-    if (isOpen()) file_.putInPlace();
+    if (!isOpen()) return;
+    const LongWork work("Writing to the disk");
+    file_.putInPlace();
 }
 
 }  // namespace platform
