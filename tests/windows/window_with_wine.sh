@@ -21,12 +21,6 @@ exec wine "$windows/kelvo.exe" --folder "Z:\$1"
 END
 chmod +x "$work/windows/kelvo"
 
-# Wine takes its time: keys that come too soon behind others are lost on their way to the program.
-xdotool() {
-    command xdotool "$@"
-    sleep 0.2
-}
-
 # look NAME: keeps a picture of the screen, where they are wanted.
 look() {
     [ -z "$pictures" ] || import -silent -window root "$pictures/$system-$1.png"
