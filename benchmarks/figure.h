@@ -1,8 +1,9 @@
-// A figure that a benchmark has measured, told to whoever collects them.
+// What benchmarks measure and how they tell it to whoever collects the figures.
 #pragma once
 
 #include <algorithm>
 #include <cstdio>
+#include <fstream>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,19 @@ inline double quantile(std::vector<double> values, double part)
     if (values.empty()) return 0;
     std::sort(values.begin(), values.end());
     return values[static_cast<std::size_t>(part * static_cast<double>(values.size() - 1))];
+}
+
+/// Memory that this process has in use now, of its own and shared; 0 where the system does not tell.
+inline double residentMegabytes()
+{
+    std::ifstream status("/proc/self/status");
+    for (std::string word; status >> word;) {
+        if (word != "VmRSS:") continue;
+        double kilobytes = 0;
+        status >> kilobytes;
+        return kilobytes / 1024;
+    }
+    return 0;
 }
 
 }  // namespace bench

@@ -7,7 +7,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
-#include <fstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -24,18 +23,6 @@ using Clock = std::chrono::steady_clock;
 double millisecondsSince(Clock::time_point start)
 {
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
-}
-
-double residentMegabytes()
-{
-    std::ifstream status("/proc/self/status");
-    for (std::string word; status >> word;) {
-        if (word != "VmRSS:") continue;
-        double kilobytes = 0;
-        status >> kilobytes;
-        return kilobytes / 1024;
-    }
-    return 0;
 }
 
 /// A fifth of the QSOs, a thousand when there are 5000.
@@ -77,7 +64,7 @@ std::vector<Part> play(int qsos)
             "INSERT INTO Uus144a (Callsign, Data , UTC, Sent, Rcvd, Mode, Freq, QRALoc, Pct)  VALUES "
             "('DL1X','15.11.26','12:34','599 001','599 012','CW','144','KN16AA','163');");
         part.inserts.push_back(millisecondsSince(start));
-        part.megabytes = residentMegabytes();
+        part.megabytes = bench::residentMegabytes();
     }
     if (!contest.complaints().empty()) {
         std::printf("NOT as it was worked: %s\n", contest.complaints().front().c_str());

@@ -5,7 +5,6 @@
 #include <QMainWindow>
 #include <cstdio>
 #include <cstring>
-#include <fstream>
 #include <string>
 
 #include "bench_folder.h"
@@ -17,26 +16,14 @@
 
 namespace {
 
-double residentMegabytes()
-{
-    std::ifstream status("/proc/self/status");
-    for (std::string word; status >> word;) {
-        if (word != "VmRSS:") continue;
-        double kilobytes = 0;
-        status >> kilobytes;
-        return kilobytes / 1024;
-    }
-    return 0;
-}
-
 void showEmptyWindow()
 {
     QMainWindow window;
     window.showMaximized();
     for (int i = 0; i < 20; ++i)
         QApplication::processEvents();
-    std::printf("empty window %.1f\n", residentMegabytes());
-    bench::tellFigure("empty", residentMegabytes(), "MB");
+    std::printf("empty window %.1f\n", bench::residentMegabytes());
+    bench::tellFigure("empty", bench::residentMegabytes(), "MB");
 }
 
 void showLog()
@@ -60,8 +47,8 @@ void showLog()
         program.post(app::GridScrolled{&FrmQSO.DBGrid1, -page, page});
     program.waitUntilIdle();
     const bool shown = program.picture().form == "FrmQSO" && FrmQSO.DBGrid1.seen();
-    std::printf("kelvo, 30,000 rows %.1f%s\n", residentMegabytes(), shown ? "" : " (the log is NOT in view)");
-    bench::tellFigure("kelvo", residentMegabytes(), "MB");
+    std::printf("kelvo, 30,000 rows %.1f%s\n", bench::residentMegabytes(), shown ? "" : " (the log is NOT in view)");
+    bench::tellFigure("kelvo", bench::residentMegabytes(), "MB");
 }
 
 }  // namespace

@@ -36,22 +36,6 @@ void synchroniseDescriptor(int descriptor, std::error_code& failed)
 
 }  // namespace
 
-WritableFile::WritableFile(WritableFile&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1))
-{
-}
-
-WritableFile& WritableFile::operator=(WritableFile&& other) noexcept
-{
-    std::swap(descriptor_, other.descriptor_);
-    return *this;
-}
-
-WritableFile::~WritableFile()
-{
-    std::error_code ignored;
-    close(ignored);
-}
-
 void WritableFile::create(const std::filesystem::path& file, std::error_code& failed)
 {
     close(failed);

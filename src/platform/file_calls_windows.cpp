@@ -41,22 +41,6 @@ std::error_code lastFailure()
 
 }  // namespace
 
-WritableFile::WritableFile(WritableFile&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1))
-{
-}
-
-WritableFile& WritableFile::operator=(WritableFile&& other) noexcept
-{
-    std::swap(descriptor_, other.descriptor_);
-    return *this;
-}
-
-WritableFile::~WritableFile()
-{
-    std::error_code ignored;
-    close(ignored);
-}
-
 void WritableFile::create(const std::filesystem::path& file, std::error_code& failed)
 {
     close(failed);

@@ -88,7 +88,7 @@ print_log() {
     choose OpBD144b
     answer y
     wait_for "the printed sheet" sheet_is_there
-    pdftotext -layout "$station"/L[oO][gG]/*.pdf - | grep -q YO8XXX || fail "the last QSO is not on the sheet"
+    pdftotext -layout "$station"/L[oO][gG]/*.pdf - | grep -q YO8RST || fail "the last QSO is not on the sheet"
     rm "$station"/L[oO][gG]/*.pdf
 }
 
@@ -115,7 +115,7 @@ lead() {
 
     step="going on after a new start on $system"
     work_stage_b
-    log_qso yo8xxx 023 37cd $((first + 3))
+    log_qso yo8rst 023 37cd $((first + 3))
     end_program
 
     step="writing the EDI file on $system"
