@@ -33,13 +33,18 @@ menu() {
     xdotool key --delay 60 "$@"
 }
 
+# One look at the screen finds the box: between two looks one may go and the next one come.
+another_box_is_open() {
+    local newest
+    newest=$(boxes | head -n 1) || true
+    [ -n "$newest" ] && [ "$newest" != "$1" ] && box=$newest
+}
+
 # answer KEY...: a message box after the other, each answered with its key. Comes behind what raises them.
-another_box_is_open() { box_is_open && [ "$(boxes | head -n 1)" != "$1" ]; }
 answer() {
-    local key box=none
+    local key box=
     for key in "$@"; do
         wait_for "a message box" another_box_is_open "$box"
-        box=$(boxes | head -n 1)
         wait_for "the keyboard in the box" give_keyboard "$box"
         xdotool key "$key"
     done

@@ -51,6 +51,12 @@ gone() { ! alive; }
 server_is_ready() { [ -s "$work/display" ]; }
 title_has() { xdotool getwindowname "$window" 2>/dev/null | grep -q "$1"; }
 
+# A search fails when a window goes while it looks; the next one finds what is there.
+window_is_open() {
+    window=$(xdotool search --onlyvisible --name '^Kelvo$' 2>/dev/null | head -n 1) || true
+    [ -n "$window" ]
+}
+
 boxes() { xdotool search --onlyvisible --name '^(Kelvo|EXIT|INPUT DATA|DECLARATIE|DRUCKEN)$' 2>/dev/null | grep -vx "$window"; }
 box_is_open() { [ -n "$(boxes)" ]; }
 no_box_is_open() { ! box_is_open; }
@@ -99,7 +105,6 @@ start_program() {
     "$programs/kelvo-newdb" "$station" >/dev/null
     env "$@" "$programs/${program_name:-kelvo}" --folder "$station" >"$work/program.log" 2>&1 &
     program=$!
-    window=$(timeout 30 xdotool search --sync --onlyvisible --name '^Kelvo$' | head -n 1) || true
-    [ -n "$window" ] || fail "no window"
+    wait_for "the window" window_is_open
     wait_for "the keyboard in the window" give_keyboard "$window"
 }
