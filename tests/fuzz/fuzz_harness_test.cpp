@@ -5,12 +5,14 @@
 #include <algorithm>
 #include <random>
 
+#include "entry/commit.h"
 #include "fuzz/corpus.h"
 #include "fuzz/fresh_folder.h"
 #include "fuzz/player.h"
 #include "fuzz/step_statements.h"
 #include "fuzz/targets.h"
 #include "runstate/modul1.h"
+#include "runstate/question.h"
 #include "screen/frm_qso.h"
 #include "script/parser.h"
 #include "script/step_failed.h"
@@ -240,6 +242,21 @@ class Watched : public testing::Test {
     }
 };
 
+/// The same in the contest whose log is one for all bands.
+class WatchedMaraton : public Watched {
+ protected:
+    void SetUp() override
+    {
+        play("open 7 0 0");
+        logs("YO5AAA");
+        ASSERT_EQ(watchLook(), "");
+        ASSERT_EQ(FrmQSO.LblQSO.Caption, "1");
+    }
+
+    /// The locator is followed by the name here, and the call field takes the Enter.
+    void logs(const std::string& call) { play(qso(call, "KN16AA") + "focus txtIndic\nkey Enter"); }
+};
+
 constexpr const char* rowOf144 =
     "INSERT INTO Uus144a (Callsign, Data, UTC, Sent, Rcvd, Mode, Freq, QRALoc, Pct) VALUES ('YO9ZZZ', '15.11.26', "
     "'12:00', '599 001', '599 002', 'CW', '144', 'KN16AA', '70')";
@@ -319,12 +336,106 @@ TEST_F(Watched, findsPointsThatAreWrong)
 
 TEST_F(Watched, findsACountThatWentUpWithoutARow)
 {
-    FrmQSO.LblQSO.Caption = "0";
     play("focus txtIndic");
     FrmQSO.CmdEnterCall.Enabled = true;
-    FrmQSO.txtIndic.KeyDown = [](int& /*KeyCode*/) { FrmQSO.LblQSO.Caption = "1"; };
+    FrmQSO.txtIndic.KeyDown = [](int& /*KeyCode*/) { FrmQSO.LblQSO.Caption = "2"; };
     EXPECT_EQ(complaintOf([&] { play("key F12"); }),
-              "the count on the screen went up to 1 without a row, and nobody was told");
+              "the count on the screen went up to 2 without a row, and nobody was told");
+}
+
+TEST_F(Watched, findsAScoreThatIsWrong)
+{
+    FrmQSO.LblQSO.Caption = "2";
+    const std::string complaint = watchLook();
+    EXPECT_TRUE(complaint.starts_with("row 0 of the score shows 2 QSOs and ")) << complaint;
+}
+
+TEST_F(Watched, findsAPointTooManyInTheScore)
+{
+    const std::string right = FrmQSO.LblPkt.Caption;
+    FrmQSO.LblPkt.Caption = std::to_string(std::stol(right) + 1);
+    const std::string complaint = watchLook();
+    EXPECT_TRUE(complaint.ends_with(", and Uus144a has 1 QSOs and " + right + " points")) << complaint;
+}
+
+TEST_F(Watched, findsTheScoreOfAnotherBandWrong)
+{
+    for (screen::Label* label : {&FrmQSO.LblQSO1, &FrmQSO.LblPkt2, &FrmQSO.LblQSO3}) {
+        label->Caption = "7";
+        const std::string complaint = watchLook();
+        EXPECT_TRUE(complaint.starts_with("row ")) << label->name << complaint;
+        label->Caption = "0";
+        ASSERT_EQ(watchLook(), "");
+    }
+}
+
+TEST_F(Watched, findsAScoreThatIsFilledWrong)
+{
+    FrmQSO.Cmd432.Click = [] {
+        Modul1.BandCur = 432;
+        FrmQSO.LblPkt1.Caption = "0";
+    };
+    const std::string complaint = complaintOf([&] { play("click Cmd432"); });
+    EXPECT_TRUE(complaint.starts_with("row 0 of the score shows 1 QSOs and ")) << complaint;
+}
+
+TEST_F(WatchedMaraton, takesItsRowsAsTheyAre)
+{
+    logs("YO7BBB");
+    play("click Cmd432");
+    logs("YO7BBB");
+    play("answer Yes\ndblrow DBGrid9 1\nclick Cmd1296\nclick Cmd144");
+    EXPECT_EQ(watchLook(), "");
+    EXPECT_EQ(FrmQSO.LblQSO.Caption, "2");
+    EXPECT_EQ(FrmQSO.LblQSO1.Caption, "0");
+}
+
+TEST_F(WatchedMaraton, findsAScoreThatIsWrong)
+{
+    for (screen::Label* label : {&FrmQSO.LblQSO, &FrmQSO.LblPkt, &FrmQSO.LblQSO1, &FrmQSO.LblPkt2}) {
+        const std::string right = label->Caption;
+        label->Caption = "7";
+        const std::string complaint = watchLook();
+        EXPECT_TRUE(complaint.starts_with("row ")) << label->name << complaint;
+        label->Caption = right;
+        ASSERT_EQ(watchLook(), "");
+    }
+}
+
+TEST_F(WatchedMaraton, findsATotalThatIsWrong)
+{
+    play("click Cmd432");
+    ++Modul1.QsoYO144;
+    const std::string complaint = watchLook();
+    EXPECT_TRUE(complaint.starts_with("the total of the Maraton contest on 144 is 2 QSOs and ")) << complaint;
+    --Modul1.QsoYO144;
+    ASSERT_EQ(watchLook(), "");
+    ++Modul1.PctYO1296;
+    EXPECT_EQ(watchLook(),
+              "the total of the Maraton contest on 1296 is 0 QSOs and 1 points, and its log has 0 QSOs and 0 points");
+}
+
+TEST_F(WatchedMaraton, findsATotalThatADeletionLeft)
+{
+    play("click Cmd144");
+    FrmQSO.DBGrid9.RowTouched = [] {
+        runstate::ask("DO YOU WANT TO DELETE?", "LÖSCHEN?");
+        Modul1.DbLog.Execute("DELETE FROM UusLGYO2");
+        FrmQSO.LblQSO.Caption = FrmQSO.LblPkt.Caption = "0";
+    };
+    const std::string complaint = complaintOf([&] { play("answer Yes\ndblrow DBGrid9 1"); });
+    EXPECT_TRUE(complaint.starts_with("the total of the Maraton contest on 144 is 1 QSOs and ")) << complaint;
+}
+
+TEST_F(WatchedMaraton, findsFiguresThatTheWriterKeepsWrong)
+{
+    FrmQSO.CmdEnterCall.Click = [] {
+        entry::Enter();
+        ++Modul1.PctGHz;
+    };
+    play("focus txtIndic\ntype \"YO7BBB\"\nkey Tab\ntype \"012\"\ntype \"KN16AA\"");
+    const std::string complaint = complaintOf([&] { play("click CmdEnterCall"); });
+    EXPECT_TRUE(complaint.starts_with("the band in hand has 2 QSOs and ")) << complaint;
 }
 
 TEST_F(Watched, findsATransmitterThatIsOn)

@@ -1,7 +1,6 @@
 #include "fuzz/watch.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "base/text.h"
@@ -15,45 +14,12 @@ namespace fuzz {
 
 namespace {
 
-constexpr int maraton = 7;
 constexpr int sixMetres = 101;
 
 constexpr const char* questionOfDeletion = "DO YOU WANT TO DELETE?";
 constexpr const char* titleOfDeletion = "LÖSCHEN?";
 
 enum Column : std::size_t { call = 0, time = 2, received = 4, mode = 5, band = 6, locator = 7, points = 8 };
-
-using State = runstate::Modul1State;
-
-struct Figures {
-    const char* table;
-    const char* band;
-    const char* stage;
-    std::int16_t State::*count;
-    std::int32_t State::*points;
-};
-
-constexpr std::array figures = {
-    Figures{"Uus144a", "144", "A", &State::Qso144a, &State::Pct144a},
-    Figures{"Uus144b", "144", "B", &State::Qso144b, &State::Pct144b},
-    Figures{"Uus432a", "432", "A", &State::Qso432a, &State::Pct432a},
-    Figures{"Uus432b", "432", "B", &State::Qso432b, &State::Pct432b},
-    Figures{"Uus1296a", "1296", "A", &State::Qso1296a, &State::Pct1296a},
-    Figures{"Uus1296b", "1296", "B", &State::Qso1296b, &State::Pct1296b},
-    Figures{"UusGHz", "", "", &State::QsoGHz, &State::PctGHz},
-};
-
-const Figures* figuresOf(const std::string& table)
-{
-    const auto* const found =
-        std::find_if(figures.begin(), figures.end(), [&](const Figures& row) { return row.table == table; });
-    return found == figures.end() ? nullptr : found;
-}
-
-[[noreturn]] void broken(const std::string& what)
-{
-    throw Broken{what};
-}
 
 std::string shown(const std::vector<std::string>& row)
 {
@@ -72,40 +38,6 @@ const Figures* figuresInHand()
         return row.band == band && (microwaves || row.stage == Modul1.Etapa);
     });
     return found == figures.end() ? nullptr : found;
-}
-
-/// The number that a text begins with, without the arithmetic of the program: blanks, sign, digits, point.
-double numberIn(const std::string& text)
-{
-    const std::size_t begin = text.find_first_not_of(' ');
-    if (begin == std::string::npos) return 0;
-    std::string number(1, text[begin]);
-    if (text[begin] != '-' && text[begin] != '+') number = "+" + number;
-    bool point = text[begin] == '.';
-    for (std::size_t at = begin + 1; at < text.size(); ++at) {
-        const bool isPoint = text[at] == '.' && !point;
-        point = point || isPoint;
-        if (!isPoint && (text[at] < '0' || text[at] > '9')) break;
-        number.push_back(text[at]);
-    }
-    return std::strtod(number.c_str(), nullptr);
-}
-
-/// Points of all rows, rounded to a whole number at each step as a running total is. Nothing where the review form
-/// would see other figures than the entry form, since it takes six characters of the points, and for sums beyond 32
-/// bits, which end a recount.
-std::optional<double> sumOfPoints(const Rows& rows)
-{
-    constexpr std::size_t seenByReview = 6;
-    constexpr double most = 2147483647.0;
-    double sum = 0;
-    for (const auto& [key, row] : rows) {
-        const std::string& value = row.at(points);
-        if (value.size() > seenByReview) return std::nullopt;
-        sum = std::nearbyint(sum + numberIn(value));
-        if (std::abs(sum) > most) return std::nullopt;
-    }
-    return sum;
 }
 
 bool isKey(const app::QueueEntry& entry, std::initializer_list<int> codes)
@@ -154,7 +86,7 @@ bool isCleared(const std::string& call)
 /// The table that a question about a whole log speaks of.
 std::string tableInQuestion(const std::string& question)
 {
-    if (question == "DO YOU WANT TO DELETE CONTEST LOG ?") return "UusLGYO2";
+    if (question == "DO YOU WANT TO DELETE CONTEST LOG ?") return maratonTable;
     if (question == "DO YOU WANT TO DELETE LOG GHz ?") return "UusGHz";
     for (const Figures& row : figures)
         if (question == std::string("DO YOU WANT TO DELETE LOG  ") + row.band + row.stage + " MHz ?") return row.table;
@@ -175,6 +107,7 @@ void Watch::tablesWereChangedBehind()
     memory_.fileHasChanged();
     for (const std::string& table : logTableNames()) {
         tables_[table] = log_.rows(table).value_or(Rows{});
+        countInto(counts_, table, tables_[table]);
         if (!tables_[table].empty())
             greatestKey_[table] = std::max(greatestKey_[table], tables_[table].rbegin()->first);
     }
@@ -187,6 +120,7 @@ void Watch::forgetFigures()
     trust_.clear();
     countRaised_ = false;
     deletedFrom_.clear();
+    score_.forget();
 }
 
 std::size_t Watch::noticesGiven() const
@@ -306,6 +240,8 @@ void Watch::checkLog()
         if (*now == tables_[table]) continue;
         checkTable(table, tables_[table], *now);
         tables_[table] = *std::move(now);
+        countInto(counts_, table, tables_[table]);
+        if (table == maratonTable) score_.maratonLogChanged(counts_);
     }
     if (rowsWritten_ > 1) broken("one entry wrote " + std::to_string(rowsWritten_) + " rows");
 }
@@ -344,12 +280,12 @@ void Watch::checkNewRow(const std::string& table, const std::vector<std::string>
     if (row.at(locator) != before_.locator)
         broken(what + " while the locator was " + script::inQuotes(before_.locator));
 
-    if (table == "UusLGYO2") {
+    if (table == maratonTable) {
         const bool known = row.at(band) == "144" || row.at(band) == "432" || row.at(band) == "1296";
-        if (Modul1.ConcId != maraton || !known) broken(what + ", which does not belong there");
+        if (Modul1.ConcId != maratonContest || !known) broken(what + ", which does not belong there");
         return;
     }
-    if (Modul1.ConcId == maraton) broken(what + " in the Maraton contest");
+    if (Modul1.ConcId == maratonContest) broken(what + " in the Maraton contest");
     if (table == "UusGHz") {
         if (numberIn(row.at(band)) <= 1296) broken(what + " of another band");
         return;
@@ -366,7 +302,7 @@ void Watch::checkChangedRow(const std::string& table, const std::vector<std::str
                             const std::vector<std::string>& now) const
 {
     std::vector<std::string> expected = before;
-    const bool bandTable = table != "UusLGYO2";
+    const bool bandTable = table != maratonTable;
     if (bandTable) expected.at(points) = "0";
     const bool chosen = bandTable && FrmQSO.DubActual == 10;
     if (now != expected || !chosen)
@@ -376,7 +312,10 @@ void Watch::checkChangedRow(const std::string& table, const std::vector<std::str
 void Watch::checkRowsGone(const std::string& table, std::size_t gone, std::size_t left)
 {
     trust_.erase(table);
-    if (before_.entryForm) deletedFrom_ = table;
+    if (before_.entryForm)
+        deletedFrom_ = table;
+    else
+        score_.rowsGoneElsewhere();
     if (leave_.wholeTable == table && left == 0) return;
     if (gone > static_cast<std::size_t>(leave_.rows))
         broken(std::to_string(gone) + " rows of " + table + " are gone, and the operator let go of " +
@@ -432,36 +371,54 @@ void Watch::noteFailedWriter(std::size_t rowsWritten)
 /// was told. The next recount puts them right; a deletion on the entry form is one.
 void Watch::checkFigures()
 {
-    const bool errorWasTold = std::exchange(noticesAtRest_, noticesGiven()) != noticesGiven();
-    const std::string deletedFrom = std::exchange(deletedFrom_, {});
-    for (const Figures& row : figures) {
-        // The Maraton contest keeps the figures of its band where those of the GHz log stand.
-        if (Modul1.ConcId == maraton && row.table == std::string("UusGHz")) continue;
-        const Rows& rows = tables_[row.table];
-        // The writers of the GHz log on the review form pass over rows without a time, and count what they write.
-        const bool microwaves = row.table == std::string("UusGHz");
-        if (microwaves &&
-            std::any_of(rows.begin(), rows.end(), [](const auto& entry) { return entry.second.at(time).empty(); }))
-            continue;
-        Trust& trust = trust_[row.table];
-        const auto count = static_cast<long>(rows.size());
-        const std::optional<double> sum = sumOfPoints(rows);
-        const bool countAgrees = Modul1.*row.count == count;
-        const bool pointsAgree = sum && Modul1.*row.points == static_cast<long>(*sum);
-        const bool actual = FrmQSO.DubActual == 10;
-        const bool recounted = deletedFrom == row.table;
-        if ((recounted || (trust.count && !countRaised_)) && !countAgrees && !errorWasTold)
-            broken(std::string(row.table) + " has " + std::to_string(count) + " rows and the program counts " +
-                   std::to_string(Modul1.*row.count));
-        if ((recounted || (trust.points && !actual)) && sum && !pointsAgree && !errorWasTold)
-            broken(std::string(row.table) + " has " + std::to_string(*sum) + " points and the program counts " +
-                   std::to_string(Modul1.*row.points));
-        trust.count = countAgrees;
-        trust.points = pointsAgree;
+    const Happened happened{
+        .errorWasTold = std::exchange(noticesAtRest_, noticesGiven()) != noticesGiven(),
+        .countRaised = countRaised_,
+        .deletedFrom = std::exchange(deletedFrom_, {}),
+    };
+    for (const Figures& row : figures)
+        checkFiguresOfTable(row, happened);
+    score_.look(counts_, trust_, happened);
+    const std::optional<long> rows = rowsInHand();
+    if (rows && numberIn(FrmQSO.LblQSO.Caption) == static_cast<double>(*rows)) countRaised_ = false;
+}
+
+void Watch::checkFiguresOfTable(const Figures& figure, const Happened& happened)
+{
+    const std::string table = figure.table;
+    const bool microwaves = table == "UusGHz";
+    const Rows& rows = tables_[table];
+    // The Maraton contest keeps the figures of its band where those of the GHz log stand, and leaves them there. The
+    // writers of the GHz log on the review form pass over rows without a time, and count what they write.
+    if (microwaves && (Modul1.ConcId == maratonContest || std::any_of(rows.begin(), rows.end(), [](const auto& entry) {
+                           return entry.second.at(time).empty();
+                       }))) {
+        trust_.erase(table);
+        return;
     }
-    const Figures* inHand = figuresInHand();
-    if (inHand != nullptr && numberIn(FrmQSO.LblQSO.Caption) == static_cast<double>(tables_[inHand->table].size()))
-        countRaised_ = false;
+    Trust& trust = trust_[table];
+    const Counted& counted = counts_.at(table);
+    const bool countAgrees = Modul1.*figure.count == counted.count;
+    const bool pointsAgree = counted.points && Modul1.*figure.points == static_cast<long>(*counted.points);
+    const bool actual = FrmQSO.DubActual == 10;
+    const bool recounted = happened.deletedFrom == table;
+    if ((recounted || (trust.count && !countRaised_)) && !countAgrees && !happened.errorWasTold)
+        broken(table + " has " + std::to_string(counted.count) + " rows and the program counts " +
+               std::to_string(Modul1.*figure.count));
+    if ((recounted || (trust.points && !actual)) && counted.points && !pointsAgree && !happened.errorWasTold)
+        broken(table + " has " + std::to_string(*counted.points) + " points and the program counts " +
+               std::to_string(Modul1.*figure.points));
+    trust = {.count = countAgrees, .points = pointsAgree};
+}
+
+/// QSOs in the log that is worked on, nothing when none is.
+std::optional<long> Watch::rowsInHand() const
+{
+    const Figures* figure = figuresInHand();
+    const auto found = Modul1.ConcId == maratonContest ? counts_.find(std::to_string(Modul1.BandCur))
+                                                       : counts_.find(figure == nullptr ? "" : figure->table);
+    if (found == counts_.end()) return std::nullopt;
+    return found->second.count;
 }
 
 }  // namespace fuzz

@@ -10,15 +10,12 @@
 #include <optional>
 #include <string>
 
+#include "fuzz/broken.h"
 #include "fuzz/driven_program.h"
+#include "fuzz/score_watch.h"
 #include "fuzz/tables.h"
 
 namespace fuzz {
-
-/// Something that must hold does not. Not derived from std::exception, as no trap may hold it.
-struct Broken {
-    std::string what;
-};
 
 class Watch final : public Onlooker {
  public:
@@ -57,11 +54,6 @@ class Watch final : public Onlooker {
         std::string wholeTable;  ///< all of it
         std::string memoryOrLog;
     };
-    /// Whether a figure of the program has been seen to be right: from then on it has to stay so.
-    struct Trust {
-        bool count = false;
-        bool points = false;
-    };
 
     void checkSerialLines(bool atRest);
     void checkGrids() const;
@@ -74,6 +66,8 @@ class Watch final : public Onlooker {
     void checkMemory();
     void checkClearedScreen(std::size_t rowsWritten) const;
     void checkFigures();
+    void checkFiguresOfTable(const Figures& figure, const Happened& happened);
+    std::optional<long> rowsInHand() const;
     void noteFailedWriter(std::size_t rowsWritten);
     void forgetFigures();
     std::size_t noticesGiven() const;
@@ -83,9 +77,11 @@ class Watch final : public Onlooker {
     TableReader log_;
     TableReader memory_;
     std::map<std::string, Rows> tables_;
+    Counts counts_;  ///< of these tables
     Rows calls_;
     std::map<std::string, std::int64_t> greatestKey_;
     std::map<std::string, Trust> trust_;
+    ScoreWatch score_;
     Before before_;
     Leave leave_;
     std::size_t rowsWritten_ = 0;  ///< since the last look
