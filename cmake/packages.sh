@@ -5,7 +5,7 @@ build_packages=(g++ cmake ninja-build libsqlite3-dev)
 # The desktop program.
 desktop_packages=(qt6-base-dev qt6-serialport-dev libopenal-dev libasound2 fonts-dejavu-core fonts-liberation)
 # Tests and checks; real keys into a real window; distances by somebody else.
-test_packages=(libgtest-dev libgmock-dev libgeographiclib-dev clang-format clang-tidy xvfb xdotool sqlite3 poppler-utils
+test_packages=(libgtest-dev libgmock-dev libgeographiclib-dev clang-format clang-tidy lld xvfb xdotool sqlite3 poppler-utils
     g++-mingw-w64-x86-64-posix)
 # Benchmarks, and the table of what they measured.
 bench_packages=(libbenchmark-dev python3 util-linux)

@@ -165,7 +165,7 @@ TEST(Action, refusesQuotesThatDoNotCloseAndComments)
 
 TEST(Tokens, quoteAndUnquote)
 {
-    EXPECT_EQ(storage::quoted("O'Neil"), "'O''Neil'");
+    EXPECT_EQ(storage::textToken("O'Neil"), "'O''Neil'");
     EXPECT_EQ(storage::textIn(storage::tokensOf("'O''Neil'").at(0)), "O'Neil");
     EXPECT_EQ(storage::nameIn(storage::tokensOf("[Call sign]").at(0)), "Call sign");
     EXPECT_EQ(storage::nameIn(storage::tokensOf("Callsign").at(0)), "Callsign");

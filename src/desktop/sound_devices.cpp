@@ -17,7 +17,7 @@ namespace {
 using namespace std::chrono_literals;
 
 /// So long a device may take to begin and to end, on top of the sound.
-constexpr auto patience = 1s;
+constexpr auto patienceWithTheDevice = 1s;
 
 }  // namespace
 
@@ -26,14 +26,14 @@ class SoundDevices::Count {
  public:
     Count() = default;
     /// The program does not end under a library at work.
-    ~Count() { job_.stop(patience); }
+    ~Count() { job_.stop(patienceWithTheDevice); }
     Count(const Count&) = delete;
     Count& operator=(const Count&) = delete;
 
     /// Their number, 0 when nothing is heard of them in time.
     int wait(const std::stop_token& programStops)
     {
-        return job_.wait(patience, programStops) == SoundJob::Outcome::done ? *number_ : 0;
+        return job_.wait(patienceWithTheDevice, programStops) == SoundJob::Outcome::done ? *number_ : 0;
     }
 
  private:
@@ -51,7 +51,7 @@ SoundDevices::SoundDevices(platform::Notices& notices, std::stop_token programSt
 
 SoundDevices::~SoundDevices()
 {
-    if (latest_) latest_->stop(patience);
+    if (latest_) latest_->stop(patienceWithTheDevice);
 }
 
 void SoundDevices::countAhead()
@@ -84,7 +84,7 @@ void SoundDevices::play(const std::string& path)
 
 SoundJob::Outcome SoundDevices::playToItsEnd(platform::SoundFile sound)
 {
-    const auto limit = sound.length + patience;
+    const auto limit = sound.length + patienceWithTheDevice;
     // The form says itself that a message goes out.
     const platform::LongWork nothingToShow("");
     latest_ = std::make_shared<SoundJob>(

@@ -1,8 +1,5 @@
 #include "review/export_road.h"
 
-#include <algorithm>
-#include <initializer_list>
-
 #include "base/runtime_error.h"
 #include "entry/log_table.h"
 #include "platform/keys.h"
@@ -33,15 +30,10 @@ constexpr int styleYesNoExclamation = 52;
 constexpr int styleOkCancelInformation = 65;
 constexpr double leftOnSmallScreen = 4000;
 
-bool isOneOf(std::initializer_list<int> contests)
-{
-    return std::find(contests.begin(), contests.end(), Modul1.ConcId) != contests.end();
-}
-
 /// The contests that know no other band.
 void takeOnlyBand()
 {
-    if (isOneOf({1, 4, 6})) Modul1.BandCur = 144;
+    if (runstate::contestIsOneOf({1, 4, 6})) Modul1.BandCur = 144;
 }
 
 void moveOnSmallScreen(screen::Control& control)
@@ -138,9 +130,9 @@ void writeEdiFile()
 
 void writeTextFiles()
 {
-    if (isOneOf({0, 1, 4, 6})) {
+    if (runstate::contestIsOneOf({0, 1, 4, 6})) {
         writeBandInHand();
-    } else if (isOneOf({2, 3, 5, 8, 100})) {
+    } else if (runstate::contestIsOneOf({2, 3, 5, 8, 100})) {
         PLog144();
         PLog432();
         PLog1296();
@@ -182,7 +174,7 @@ void MnuASCIIDATEI_Click()
     showDisketteBands();
     takeOnlyBand();
     // On six metres too the band buttons are the way on.
-    const bool choosesBand = isOneOf({0, 101});
+    const bool choosesBand = runstate::contestIsOneOf({0, 101});
     FrmAnzeigen.Frame8.Visible = choosesBand;
     if (!choosesBand) DatInSumm();
 }

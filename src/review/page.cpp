@@ -1,8 +1,6 @@
 #include "review/page.h"
 
-#include <algorithm>
 #include <cstdint>
-#include <initializer_list>
 #include <span>
 
 #include "runstate/contest_codes.h"
@@ -117,11 +115,6 @@ void applyButtons(std::span<const ButtonRow> rows)
     }
 }
 
-bool isOneOf(std::initializer_list<int> some)
-{
-    return std::find(some.begin(), some.end(), Modul1.ConcId) != some.end();
-}
-
 void bindDataControls()
 {
     FrmAnzeigen.QRA.DatabaseName = Modul1.AppDir + "\\dbsKelvo.mdb";
@@ -155,7 +148,7 @@ void FrmAnzeigen_Load()
 void showViewButtons()
 {
     applyButtons(viewButtons);
-    if (!isOneOf({1, 4, 6, 101})) return;
+    if (!runstate::contestIsOneOf({1, 4, 6, 101})) return;
     screen::setDesignHeight(FrmAnzeigen.Frame1, 1455);
     screen::setDesignTop(FrmAnzeigen.OpBQRALoc, 1080);
 }
@@ -171,7 +164,7 @@ void showEmptyingButtons()
 void showPrintButtons()
 {
     applyButtons(printButtons);
-    if (isOneOf({1, 4, 6, 7, 101})) screen::setDesignHeight(FrmAnzeigen.Frame3, 1215);
+    if (runstate::contestIsOneOf({1, 4, 6, 7, 101})) screen::setDesignHeight(FrmAnzeigen.Frame3, 1215);
     if (Modul1.ConcId != runstate::internationalContest) return;
     screen::setDesignHeight(FrmAnzeigen.Frame3, 2550);
     screen::setDesignWidth(FrmAnzeigen.Frame3, 1475);
@@ -185,7 +178,7 @@ void showEdiBands()
 void showDisketteBands()
 {
     applyButtons(disketteBands);
-    if (isOneOf({1, 4, 6})) screen::setDesignHeight(FrmAnzeigen.Frame8, 735);
+    if (runstate::contestIsOneOf({1, 4, 6})) screen::setDesignHeight(FrmAnzeigen.Frame8, 735);
 }
 
 }  // namespace review

@@ -19,7 +19,7 @@ namespace review {
 namespace {
 
 /// What the figures of a contest are made of.
-enum class Figures { stagesOfBand, bands, maraton, oneTable };
+enum class Breakdown { stagesOfBand, bands, maraton, oneTable };
 
 /// One line of figures. Sums are wider than the figures that they are made of.
 struct FigureRow {
@@ -28,20 +28,20 @@ struct FigureRow {
     std::int64_t points = 0;
 };
 
-Figures figuresOfContest()
+Breakdown breakdownOfContest()
 {
     switch (Modul1.ConcId) {
         case 0:
         case 1:
         case 6:
-            return Figures::stagesOfBand;
+            return Breakdown::stagesOfBand;
         case 4:
         case 101:
-            return Figures::oneTable;
+            return Breakdown::oneTable;
         case 7:
-            return Figures::maraton;
+            return Breakdown::maraton;
         default:
-            return Figures::bands;
+            return Breakdown::bands;
     }
 }
 
@@ -116,7 +116,7 @@ std::vector<FigureRow> bandsOfMaraton()
 
 FigureRow totalOf(const std::vector<FigureRow>& rows)
 {
-    if (figuresOfContest() == Figures::stagesOfBand) return {"TOTAL", FrmAnzeigen.SumQso, FrmAnzeigen.SumPct};
+    if (breakdownOfContest() == Breakdown::stagesOfBand) return {"TOTAL", FrmAnzeigen.SumQso, FrmAnzeigen.SumPct};
     FigureRow total{"TOTAL"};
     for (const FigureRow& row : rows) {
         total.qsos += row.qsos;
@@ -128,7 +128,7 @@ FigureRow totalOf(const std::vector<FigureRow>& rows)
 /// What the queue of the printer calls the sheet.
 std::string nameOfSheet()
 {
-    if (figuresOfContest() != Figures::stagesOfBand) return "Summary";
+    if (breakdownOfContest() != Breakdown::stagesOfBand) return "Summary";
     return "Summary " + base::toText(Modul1.BandCur);
 }
 
@@ -137,7 +137,7 @@ std::string number(std::int64_t value)
     return base::toText(static_cast<long long>(value));
 }
 
-void printTitle()
+void printSheetTitle()
 {
     constexpr int column = 15;
     takeFont(20);
@@ -147,7 +147,7 @@ void printTitle()
     emptyLines(2);
 }
 
-void printStation()
+void printSheetStation()
 {
     constexpr int labels = 10;
     constexpr int values = 30;
@@ -192,17 +192,17 @@ void printStation()
 
 std::vector<FigureRow> figures()
 {
-    switch (figuresOfContest()) {
-        case Figures::stagesOfBand:
+    switch (breakdownOfContest()) {
+        case Breakdown::stagesOfBand:
             return stagesOfBand();
-        case Figures::maraton:
+        case Breakdown::maraton:
             return bandsOfMaraton();
         default:
             return bands();
     }
 }
 
-void printFigures()
+void printSheetFigures()
 {
     paper().setBold(true);
     printItems({{12, "Band"}, {20, "No.QSO"}, {30, "Points"}});
@@ -232,7 +232,7 @@ void printFiguresWithScore()
     printItems({{10, "TOTAL"}, {24, qsos}, {34, points}, {44, points}});
 }
 
-void printDeclaration()
+void printSheetDeclaration()
 {
     constexpr int column = 11;
     paper().setBold(false);
@@ -254,10 +254,10 @@ void PSummary()
     countContest();
     base::ResumeNext go;
     go([] { paper().begin(base::trim(Modul1.MyCall) + " " + nameOfSheet()); });
-    go(printTitle);
-    go(printStation);
-    go(figuresOfContest() == Figures::oneTable ? printFiguresWithScore : printFigures);
-    go(printDeclaration);
+    go(printSheetTitle);
+    go(printSheetStation);
+    go(breakdownOfContest() == Breakdown::oneTable ? printFiguresWithScore : printSheetFigures);
+    go(printSheetDeclaration);
     go([] { paper().endDocument(); });
     FrmAnzeigen.Frame6.Visible = false;
 }

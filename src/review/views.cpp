@@ -26,13 +26,13 @@ struct View {
     void (*sum)();
 };
 
-constexpr View log144a = {144, "A", Summe144a};
-constexpr View log144b = {144, "B", Summe144b};
-constexpr View log432a = {432, "A", Summe432a};
-constexpr View log432b = {432, "B", Summe432b};
-constexpr View log1296a = {1296, "A", Summe1296a};
-constexpr View log1296b = {1296, "B", Summe1296b};
-constexpr View logGHz = {entry::bandGHz, "", SummeGHz};
+constexpr View view144a = {144, "A", Summe144a};
+constexpr View view144b = {144, "B", Summe144b};
+constexpr View view432a = {432, "A", Summe432a};
+constexpr View view432b = {432, "B", Summe432b};
+constexpr View view1296a = {1296, "A", Summe1296a};
+constexpr View view1296b = {1296, "B", Summe1296b};
+constexpr View viewGHz = {entry::bandGHz, "", SummeGHz};
 
 void showLog(const View& view)
 {
@@ -81,35 +81,35 @@ void mnuLogAnzeigen_Click()
 void OpB144a_Click()
 {
     if (Modul1.ConcId == runstate::maratonContest) return showMaratonLog(144);
-    showLog(log144a);
+    showLog(view144a);
 }
 
 void Opb144b_Click()
 {
     if (Modul1.ConcId == runstate::maratonContest) return showMaratonLog(432);
-    showByContest(log144b, log432a);
+    showByContest(view144b, view432a);
 }
 
 void OpB432a_Click()
 {
-    showByContest(log432a, log1296a);
+    showByContest(view432a, view1296a);
     if (Modul1.ConcId == runstate::maratonContest) showMaratonLog(432);
 }
 
 void OpB432b_Click()
 {
-    showByContest(log432b, logGHz);
+    showByContest(view432b, viewGHz);
 }
 
 void OpB1296a_Click()
 {
-    showLog(log1296a);
+    showLog(view1296a);
     if (Modul1.ConcId == runstate::maratonContest) showMaratonLog(1296);
 }
 
 void OpB1296b_Click()
 {
-    showLog(log1296b);
+    showLog(view1296b);
 }
 
 void OpBQRALoc_Click()

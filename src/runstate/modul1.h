@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 
 #include "platform/result_file.h"
@@ -154,3 +155,10 @@ struct Modul1State {
 }  // namespace runstate
 
 extern runstate::Modul1State Modul1;
+
+namespace runstate {
+
+/// True when the contest in hand is one of those with these codes.
+bool contestIsOneOf(std::initializer_list<int> codes);
+
+}  // namespace runstate

@@ -14,7 +14,7 @@ namespace {
 
 using Tokens = std::span<const Token>;
 
-[[noreturn]] void refuse(std::string_view statement, const std::string& why)
+[[noreturn]] void refuseStatement(std::string_view statement, const std::string& why)
 {
     throw base::RuntimeError(base::invalidArgument, why + ": " + std::string(statement));
 }
@@ -54,7 +54,7 @@ std::string likeWithRange(const Token& name, const Token& pattern)
     const std::string head = LikePattern(textIn(pattern)).literalHead();
     if (head.empty()) return like;
     const auto bound = [&](const char* sign, const std::string& value) {
-        return " AND " + column + sign + quoted(value) + " COLLATE NOCASE";
+        return " AND " + column + sign + textToken(value) + " COLLATE NOCASE";
     };
     return "(" + like + bound(" >= ", head) + bound(" < ", behindHead(head)) + ")";
 }
@@ -83,7 +83,8 @@ Tokens firstStatement(Tokens tokens, std::string_view statement)
 {
     const auto isEnd = [](const Token& token) { return isSign(token, ';'); };
     const auto end = std::find_if(tokens.begin(), tokens.end(), isEnd);
-    if (!std::all_of(end, tokens.end(), isEnd)) refuse(statement, "Something stands behind the first statement");
+    if (!std::all_of(end, tokens.end(), isEnd))
+        refuseStatement(statement, "Something stands behind the first statement");
     return tokens.first(static_cast<std::size_t>(end - tokens.begin()));
 }
 
@@ -110,7 +111,7 @@ std::string parseCondition(Tokens tokens, std::string_view statement)
 {
     if (tokens.empty()) return {};
     const bool whole = isWord(tokens[0], "WHERE") && tokens.size() > 1 && bracketsMatch(tokens);
-    if (!whole) refuse(statement, "This is no condition that rows can be chosen by");
+    if (!whole) refuseStatement(statement, "This is no condition that rows can be chosen by");
     return translated(tokens.subspan(1));
 }
 
@@ -139,7 +140,7 @@ std::vector<std::string> parseOrder(Tokens tokens, std::string_view statement)
         whole = isName(tokens[i]) && (i == 2 || isSign(tokens[i - 1], ','));
         order.push_back(nameIn(tokens[i]));
     }
-    if (!whole) refuse(statement, "This is no order that rows can be read in");
+    if (!whole) refuseStatement(statement, "This is no order that rows can be read in");
     return order;
 }
 
@@ -153,7 +154,7 @@ Selection parseSelection(std::string_view statement)
 
     const bool whole = tokens.size() >= 4 && isWord(tokens[0], "SELECT") && isSign(tokens[1], '*') &&
                        isWord(tokens[2], "FROM") && isName(tokens[3]);
-    if (!whole) refuse(statement, "This is no selection of rows");
+    if (!whole) refuseStatement(statement, "This is no selection of rows");
     const Tokens rest = tokens.subspan(4);
     const std::size_t order = findOrder(rest);
     return {std::string(tokens[3].source), parseCondition(rest.first(order), statement),
@@ -167,7 +168,7 @@ std::string translateAction(std::string_view statement)
     const std::vector<Token> tokens = tokensOf(statement);
     const bool action = !tokens.empty() && std::any_of(beginnings.begin(), beginnings.end(),
                                                        [&](std::string_view word) { return isWord(tokens[0], word); });
-    if (!action) refuse(statement, "This statement changes nothing");
+    if (!action) refuseStatement(statement, "This statement changes nothing");
     const bool starred = tokens.size() > 1 && isWord(tokens[0], "DELETE") && isSign(tokens[1], '*');
     if (starred) return "DELETE " + translated(Tokens(tokens).subspan(2));
     return translated(tokens);

@@ -10,7 +10,7 @@ namespace {
 constexpr std::string_view blankCharacters = " \t\r\n\f\v";
 constexpr std::string_view parameterSigns = "?:@$";
 
-[[noreturn]] void refuse(std::string_view statement, const std::string& why)
+[[noreturn]] void refuseToken(std::string_view statement, const std::string& why)
 {
     throw base::RuntimeError(base::invalidArgument, why + " in the statement " + std::string(statement));
 }
@@ -39,13 +39,13 @@ std::size_t endOfQuoted(std::string_view statement, std::size_t at, char quote)
         if (!doubled) return at + 1;
         ++at;
     }
-    refuse(statement, "A quote is not closed");
+    refuseToken(statement, "A quote is not closed");
 }
 
 std::size_t endOfBracketed(std::string_view statement, std::size_t at)
 {
     const std::size_t closing = statement.find(']', at);
-    if (closing == std::string_view::npos) refuse(statement, "A bracket is not closed");
+    if (closing == std::string_view::npos) refuseToken(statement, "A bracket is not closed");
     return closing + 1;
 }
 
@@ -53,9 +53,9 @@ std::size_t endOfBracketed(std::string_view statement, std::size_t at)
 void refuseForeignSigns(std::string_view statement, std::size_t at)
 {
     const std::string_view rest = statement.substr(at);
-    if (rest.starts_with("--") || rest.starts_with("/*")) refuse(statement, "There is a comment");
-    if (parameterSigns.find(rest[0]) != std::string_view::npos) refuse(statement, "There is a parameter");
-    if (rest[0] == '\0') refuse(statement, "There is a zero byte");
+    if (rest.starts_with("--") || rest.starts_with("/*")) refuseToken(statement, "There is a comment");
+    if (parameterSigns.find(rest[0]) != std::string_view::npos) refuseToken(statement, "There is a parameter");
+    if (rest[0] == '\0') refuseToken(statement, "There is a zero byte");
 }
 
 Token tokenAt(std::string_view statement, std::size_t at)
@@ -127,7 +127,7 @@ std::string textIn(const Token& token)
     return withoutQuotes(token);
 }
 
-std::string quoted(std::string_view value)
+std::string textToken(std::string_view value)
 {
     std::string token = "'";
     for (const char character : value) {

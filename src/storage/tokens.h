@@ -39,6 +39,6 @@ std::string nameIn(const Token& token);
 std::string textIn(const Token& token);
 
 /// A value as a text token, every quote inside doubled.
-std::string quoted(std::string_view value);
+std::string textToken(std::string_view value);
 
 }  // namespace storage
