@@ -379,6 +379,15 @@ TEST_F(Watched, findsAScoreThatIsFilledWrong)
     EXPECT_TRUE(complaint.starts_with("row 0 of the score shows 1 QSOs and ")) << complaint;
 }
 
+TEST_F(Watched, takesAMicrowaveFromTheListOfAnUndoneAbort)
+{
+    play("click CmdGHz\nclick CmdAbbruchX\nclick Cmd144\nclick mnuRecup");
+    ASSERT_TRUE(FrmQSO.List1.Visible);
+    play("row List1 1");
+    ASSERT_GT(Modul1.BandCur, 1296);
+    EXPECT_EQ(watchLook(), "");
+}
+
 TEST_F(WatchedMaraton, takesItsRowsAsTheyAre)
 {
     logs("YO7BBB");

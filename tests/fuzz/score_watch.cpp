@@ -12,6 +12,9 @@ namespace fuzz {
 
 namespace {
 
+/// The band in hand from the choice of "GHz" until a frequency is picked.
+constexpr int anyMicrowave = 1;
+
 enum class Kind { stages, bands, microwaves, maraton };
 
 /// What the rows of the score stand for, by the kind of contest, the band in hand and the stage.
@@ -42,7 +45,7 @@ Kind kindInHand()
 {
     constexpr std::array severalBands = {2, 3, 5, 8, 100};
     if (Modul1.ConcId == maratonContest) return Kind::maraton;
-    if (Modul1.BandCur == 1 || Modul1.BandCur > 1296) return Kind::microwaves;
+    if (Modul1.BandCur == anyMicrowave || Modul1.BandCur > 1296) return Kind::microwaves;
     const bool several = std::find(severalBands.begin(), severalBands.end(), int{Modul1.ConcId}) != severalBands.end();
     return several ? Kind::bands : Kind::stages;
 }
@@ -131,11 +134,14 @@ void ScoreWatch::look(const Counts& counts, const Trusts& agreeing, const Happen
 }
 
 /// The rows are filled when the form comes into view and when a stage is chosen. With a band they are filled as well,
-/// but not in the contests whose stages have to be chosen: there the band leaves them as they were.
+/// but not in the contests whose stages have to be chosen: there the band leaves them as they were. Nor are they by a
+/// pick from the list of microwaves, which comes back with the QSO of an undone abort, whatever band is in hand by
+/// then.
 bool ScoreWatch::scoreWasFilled(const Score& now, bool cameIntoView) const
 {
     if (cameIntoView) return true;
     if (!shown_ || *shown_ == now) return false;
+    if (kindInHand() == Kind::microwaves && Modul1.BandCur != anyMicrowave) return false;
     return kindInHand() != Kind::stages || stage_ != Modul1.Etapa;
 }
 

@@ -13,6 +13,8 @@
 #include <string>
 #include <vector>
 
+#include "base/text.h"
+
 struct sqlite3_file;
 struct sqlite3_vfs;
 
@@ -66,12 +68,17 @@ class PowerCutVfs {
     struct Handle;
     struct Calls;
 
+    /// Files are found in whatever case, as Windows does; elsewhere the program asks for the names that are there.
+    struct IgnoringCase {
+        bool operator()(const std::string& a, const std::string& b) const { return base::upper(a) < base::upper(b); }
+    };
+
     bool holds(const File& file) const;
     bool operationDone();
 
     std::unique_ptr<sqlite3_vfs> vfs_;
     sqlite3_vfs* below_;  ///< the machine's own, for the time and random numbers
-    std::map<std::string, std::shared_ptr<File>> files_;
+    std::map<std::string, std::shared_ptr<File>, IgnoringCase> files_;
     bool off_ = false;
     long operationsLeft_ = -1;  ///< until the power goes; negative: it stays
     int readCode_ = 0;

@@ -1,11 +1,16 @@
 // The drivers of the Windows program that need no window: run under Wine, or on Windows.
 #include <gtest/gtest.h>
 #include <windows.h>
+#include <winioctl.h>
 
 #include <algorithm>
 #include <chrono>
+#include <cstdlib>
+#include <cstring>
 #include <filesystem>
+#include <string>
 #include <thread>
+#include <vector>
 
 #include "base/runtime_error.h"
 #include "desktop/deadline_sleep.h"
@@ -80,36 +85,52 @@ TEST(SerialDeviceTest, APortThatIsNotThereIsToldSo)
     EXPECT_EQ(refusalOf(-1).number, base::noSuchPort);
 }
 
-/// A drive with this letter, as long as it lives.
-class DriveLetter {
+/// A drive with this letter, as long as it lives. Its files are those of the folder. Wine's manager of drives makes it,
+/// as for its own settings; Windows lets no program do that.
+class WineDrive {
  public:
-    DriveLetter(const wchar_t* letter, const fs::path& folder) : letter_(letter)
+    WineDrive(char letter, ULONG type, const fs::path& folder) : letter_(letter)
     {
-        EXPECT_NE(DefineDosDeviceW(0, letter_, fs::path(folder).make_preferred().c_str()), 0);
+        const char* wine = std::getenv("WINEPREFIX");
+        EXPECT_NE(wine, nullptr) << "this needs Wine";
+        define(type, std::string(wine == nullptr ? "" : wine) + "/drive_c/" + folder.relative_path().generic_string());
     }
-    ~DriveLetter() { DefineDosDeviceW(DDD_REMOVE_DEFINITION, letter_, nullptr); }
-    DriveLetter(const DriveLetter&) = delete;
-    DriveLetter& operator=(const DriveLetter&) = delete;
+    ~WineDrive() { define(DRIVE_NO_ROOT_DIR, ""); }
+    WineDrive(const WineDrive&) = delete;
+    WineDrive& operator=(const WineDrive&) = delete;
 
  private:
-    const wchar_t* letter_;
-};
+    /// What the manager is asked for; the folder follows as the system below names it.
+    struct Request {
+        ULONG size = 0;
+        ULONG type = 0;
+        ULONG fileSystem = 0;
+        DWORD serialNumber = 0;
+        ULONGLONG device = 0;
+        WCHAR letter = 0;
+        USHORT folderOffset = sizeof(Request);
+        USHORT deviceOffset = 0;
+        USHORT labelOffset = 0;
+    };
 
-/// What Wine takes a drive for, as long as it lives. Windows itself does not look there.
-class TypeOfDrive {
- public:
-    TypeOfDrive(const wchar_t* drive, const wchar_t* type) : drive_(drive)
+    void define(ULONG type, const std::string& folder) const
     {
-        const auto bytes = static_cast<DWORD>((std::char_traits<wchar_t>::length(type) + 1) * sizeof(wchar_t));
-        RegSetKeyValueW(HKEY_LOCAL_MACHINE, key, drive_, REG_SZ, type, bytes);
+        const DWORD code = CTL_CODE('m', 32, METHOD_BUFFERED, FILE_READ_ACCESS | FILE_WRITE_ACCESS);
+        Request request;
+        request.size = static_cast<ULONG>(sizeof request + folder.size() + 1);
+        request.type = type;
+        request.letter = static_cast<WCHAR>(letter_);
+        std::vector<char> bytes(request.size);
+        std::memcpy(bytes.data(), &request, sizeof request);
+        std::memcpy(bytes.data() + sizeof request, folder.c_str(), folder.size() + 1);
+        HANDLE manager = CreateFileW(L"\\\\.\\MountPointManager", GENERIC_READ | GENERIC_WRITE,
+                                     FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr);
+        DWORD answered = 0;
+        EXPECT_NE(DeviceIoControl(manager, code, bytes.data(), request.size, nullptr, 0, &answered, nullptr), 0);
+        CloseHandle(manager);
     }
-    ~TypeOfDrive() { RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, key, drive_); }
-    TypeOfDrive(const TypeOfDrive&) = delete;
-    TypeOfDrive& operator=(const TypeOfDrive&) = delete;
 
- private:
-    static constexpr const wchar_t* key = L"Software\\Wine\\Drives";
-    const wchar_t* drive_;
+    char letter_;
 };
 
 TEST(MountedVolumesTest, TheDriveOfTheProgramComesFirstAndOnce)
@@ -132,7 +153,7 @@ TEST(MountedVolumesTest, DriveAIsTheDriveOfThatLetter)
     const test::TemporaryFolder folder;
     const desktop::MountedVolumes volumes("C:\\Kelvo");
     EXPECT_EQ(volumes.driveA(), std::nullopt);
-    const DriveLetter drive(L"A:", folder.path());
+    const WineDrive drive('a', DRIVE_FIXED, folder.path());
     EXPECT_EQ(volumes.driveA(), "A:");
 }
 
@@ -140,11 +161,13 @@ TEST(MountedVolumesTest, AStickIsDriveAUnderAnyLetter)
 {
     const test::TemporaryFolder folder;
     const desktop::MountedVolumes volumes("C:\\Kelvo");
-    const DriveLetter stick(L"E:", folder.path());
-    EXPECT_EQ(volumes.driveA(), std::nullopt) << "a disk";
-    const TypeOfDrive removable(L"e:", L"floppy");
+    {
+        const WineDrive disk('e', DRIVE_FIXED, folder.path());
+        EXPECT_EQ(volumes.driveA(), std::nullopt);
+    }
+    const WineDrive stick('e', DRIVE_REMOVABLE, folder.path());
     EXPECT_EQ(volumes.driveA(), "E:");
-    const DriveLetter first(L"A:", folder.path());
+    const WineDrive first('a', DRIVE_FIXED, folder.path());
     EXPECT_EQ(volumes.driveA(), "A:");
 }
 
