@@ -74,8 +74,7 @@ begin() {
     chroot --userspec=1000:1000 "$tree" /usr/bin/env -i HOME=/home/op PATH=/usr/bin:/bin LANG=C.UTF-8 \
         DISPLAY="$DISPLAY" ALSOFT_DRIVERS=null "$place/$name/kelvo" >"$work/program.log" 2>&1 &
     program=$!
-    window=$(timeout 30 xdotool search --sync --onlyvisible --name '^Kelvo$' | head -n 1) || true
-    [ -n "$window" ] || fail "no window"
+    wait_for "the window" window_is_open
     wait_for "the keyboard in the window" give_keyboard "$window"
 }
 

@@ -27,7 +27,6 @@ namespace entry {
 namespace {
 
 constexpr long mostQsos = 32767;
-/// The contest of the 6 m band works on 144 inside and is logged as 50.
 
 void openDatabases()
 {
