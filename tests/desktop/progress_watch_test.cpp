@@ -127,12 +127,11 @@ TEST_F(SlowExportTest, ShowsHowFarItHasComeAndVanishes)
 {
     exportSlowly("ab");
     EXPECT_TRUE(QTest::qWaitFor([this] { return shown_.ends; }));
-    // The end of the file is a long write of its own where the disk is slow.
-    while (!shown_.all.empty() && shown_.all.back().text == QStringLiteral("Writing to the disk …"))
-        shown_.all.pop_back();
     double before = 0;
     for (const desktop::ProgressShown& progress : shown_.all) {
         const std::string text = progress.text.toStdString();
+        // On a slow computer the way to the first row and the end of the file are long work too, without numbers.
+        if (text == "Working …" || text == "Writing to the disk …") continue;
         EXPECT_TRUE(text.starts_with("Archive ") && text.ends_with(" of 4,000")) << text;
         EXPECT_GE(progress.share.value(), before) << "it never goes back";
         EXPECT_LE(progress.share.value(), 1.0);
